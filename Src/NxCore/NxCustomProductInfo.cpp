@@ -1,0 +1,8 @@
+// SPDX-FileCopyrightText: 2026 Brevano contributors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include <NxCore/NxCustomProductInfo.h>
+
+QString NxCustomProductInfo::NGetProductName()
+{
+    return QStringLiteral("Brevano");
+}

@@ -1,0 +1,47 @@
+// SPDX-FileCopyrightText: 2026 Brevano contributors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include <NxCore/NxIniSettingsStore.h>
+
+#include <NxCore/NxLog.h>
+
+#include <QSettings>
+#include <QStandardPaths>
+
+NxIniSettingsStore::NxIniSettingsStore(const QString &path)
+    : m_settings(std::make_unique<QSettings>(path, QSettings::IniFormat))
+{
+    m_settings->setIniCodec("UTF-8");
+    m_settings->setFallbacksEnabled(false);
+}
+
+NxIniSettingsStore::~NxIniSettingsStore() = default;
+
+QString NxIniSettingsStore::userPath()
+{
+    return QStandardPaths::writableLocation(QStandardPaths::AppConfigLocation)
+           + QStringLiteral("/Settings.ini");
+}
+
+QVariant NxIniSettingsStore::value(const QString &key) const
+{
+    return m_settings->value(key);
+}
+
+void NxIniSettingsStore::setValue(const QString &key, const QVariant &value)
+{
+    m_settings->setValue(key, value);
+    write();
+}
+
+void NxIniSettingsStore::remove(const QString &key)
+{
+    m_settings->remove(key);
+    write();
+}
+
+void NxIniSettingsStore::write()
+{
+    m_settings->sync();
+    if (m_settings->status() != QSettings::NoError)
+        NX_LOG_ERROR("%s: the settings cannot be written", qUtf8Printable(m_settings->fileName()));
+}
