@@ -1,0 +1,19 @@
+// SPDX-FileCopyrightText: 2026 Brevano contributors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include <NxVBLModel/INxBsThumbManager.h>
+
+#include <NxVBLModel/INxMediaEngine.h>
+#include <NxVBLModel/NxMediaEngineDoor.h>
+
+INxBsThumbManager::~INxBsThumbManager() = default;
+
+INxBsThumbManager *createBsThumbManager()
+{
+    INxMediaEngine *engine = NxMediaEngineDoor::engine();
+    return engine ? engine->createThumbManager() : nullptr;
+}
+
+void releaseThumbManager(INxBsThumbManager *handle)
+{
+    delete handle;
+}

@@ -1,0 +1,29 @@
+// SPDX-FileCopyrightText: 2026 Brevano contributors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#pragma once
+
+#include <NxVBLModel/NxVBLModelExport.h>
+
+#include <QImage>
+#include <QSize>
+
+class INxAbstractMedia;
+
+/// Hands out pictures of media, from memory only. One handle per painter.
+class NXVBLMODEL_EXPORT INxBsThumbManager
+{
+public:
+    virtual ~INxBsThumbManager();
+
+    /// The media's picture scaled to fit, in device pixels; null when it is not in memory yet. It
+    /// is then fetched, and the observers are told that the media's state changed.
+    [[nodiscard]] virtual QImage thumbnail(INxAbstractMedia *media, const QSize &devicePixels) = 0;
+    /// Forgets what was asked for and did not come yet; for a view that scrolls on.
+    virtual void cancelRequests() = 0;
+};
+
+/// A handle of the installed engine; null when it makes none. Give it back with
+/// releaseThumbManager().
+[[nodiscard]] NXVBLMODEL_EXPORT INxBsThumbManager *createBsThumbManager();
+/// Null is accepted.
+NXVBLMODEL_EXPORT void releaseThumbManager(INxBsThumbManager *handle);
