@@ -23,7 +23,7 @@ function(nx_add_library name)
         $<BUILD_INTERFACE:${generated}>
         $<INSTALL_INTERFACE:${CMAKE_INSTALL_INCLUDEDIR}/Nx>)
     target_link_libraries(${name} PUBLIC ${arg_PUBLIC_LINK} PRIVATE ${arg_PRIVATE_LINK} $<BUILD_INTERFACE:NxBuildFlags>)
-    if(NX_BUILD_TESTS)
+    if(NX_BUILD_TESTS OR NX_BUILD_BENCHMARKS)
         target_compile_definitions(${name} PUBLIC $<BUILD_INTERFACE:${upper}_TEST_EXPORT=${upper}_EXPORT>)
     else()
         target_compile_definitions(${name} PRIVATE ${upper}_TEST_EXPORT=)

@@ -1,0 +1,138 @@
+// SPDX-FileCopyrightText: 2026 Brevano contributors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include <NxVBLEngine/NxEmbeddedEngine.h>
+
+#include <NxCore/INxAppInfo.h>
+#include <NxCore/NxLog.h>
+#include <NxVBLEngine/disk/NxPresenceKeeper.h>
+#include <NxVBLEngine/NxEngineProject.h>
+#include <NxVBLEngine/objects/NxProjectMemory.h>
+#include <NxVBLEngine/store/NxProjectStore.h>
+
+#include <QDir>
+#include <QEventLoop>
+#include <QFileInfo>
+
+class NxEmbeddedEnginePrivate
+{
+public:
+    explicit NxEmbeddedEnginePrivate(NxEmbeddedEngine::Options chosen)
+        : options(std::move(chosen))
+    {
+    }
+
+    NxProjectStoreOptions storeOptions(bool readOnly) const
+    {
+        NxProjectStoreOptions store;
+        store.readOnly = readOnly;
+        if (!options.backups)
+            return store;
+        store.backupFolder = options.backupFolder.isEmpty()
+            ? INxAppInfo::getInstance()->getDirectory(INxAppInfo::pkUserData)
+                + QStringLiteral("/Backups")
+            : options.backupFolder;
+        return store;
+    }
+
+    NxResult<INxProject *> takeOver(NxResult<std::unique_ptr<NxProjectStore>> store)
+    {
+        if (!store)
+            return store.error();
+        NxResult<std::unique_ptr<NxEngineProject>> opened = NxEngineProject::open(store.take());
+        if (!opened)
+            return opened.error();
+        project = opened.take();
+        return static_cast<INxProject *>(project.get());
+    }
+
+    NxResult<void> mayOpen() const
+    {
+        if (!project)
+            return {};
+        return NxError{QStringLiteral("%1 is open; it must be closed first").arg(project->path())};
+    }
+
+    const NxEmbeddedEngine::Options options;
+    std::unique_ptr<NxEngineProject> project;
+};
+
+namespace {
+
+QString absolute(const QString &path)
+{
+    return QDir::cleanPath(QFileInfo(path).absoluteFilePath());
+}
+
+} // namespace
+
+NxEmbeddedEngine::NxEmbeddedEngine()
+    : NxEmbeddedEngine(Options())
+{
+}
+
+NxEmbeddedEngine::NxEmbeddedEngine(const Options &options)
+    : d(std::make_unique<NxEmbeddedEnginePrivate>(options))
+{
+}
+
+NxEmbeddedEngine::~NxEmbeddedEngine() = default;
+
+NxResult<INxProject *> NxEmbeddedEngine::createProject(const QString &path)
+{
+    const NxResult<void> free = d->mayOpen();
+    if (!free)
+        return free.error();
+    return d->takeOver(NxProjectStore::create(absolute(path), d->storeOptions(false)));
+}
+
+NxResult<INxProject *> NxEmbeddedEngine::openProject(const QString &path, NxProjectOpenMode mode)
+{
+    const NxResult<void> free = d->mayOpen();
+    if (!free)
+        return free.error();
+    const bool readOnly = mode == NxProjectOpenMode::ReadOnly;
+    return d->takeOver(NxProjectStore::open(absolute(path), d->storeOptions(readOnly)));
+}
+
+NxResult<void> NxEmbeddedEngine::closeProject()
+{
+    if (!d->project)
+        return {};
+    if (d->project->isObserved()) {
+        NX_LOG_ERROR("%s is still observed", qUtf8Printable(d->project->path()));
+        return NxError{QStringLiteral("%1 is still in use").arg(d->project->path())};
+    }
+    const NxResult<void> closed = d->project->close();
+    d->project.reset();
+    return closed;
+}
+
+INxProject *NxEmbeddedEngine::currentProject()
+{
+    return d->project.get();
+}
+
+QString NxEmbeddedEngine::damage() const
+{
+    return d->project ? d->project->damage() : QString();
+}
+
+QStringList NxEmbeddedEngine::integrityProblems()
+{
+    if (!d->project || !d->project->store())
+        return {};
+    QStringList problems = d->project->store()->integrityProblems();
+    const QString broken = d->project->memory()->brokenInvariant();
+    if (!broken.isEmpty())
+        problems.append(broken);
+    return problems;
+}
+
+void NxEmbeddedEngine::refreshExistence()
+{
+    if (!d->project)
+        return;
+    QEventLoop loop;
+    d->project->presenceKeeper()->refreshNow([&loop] { loop.quit(); });
+    loop.exec();
+}

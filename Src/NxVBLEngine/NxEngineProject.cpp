@@ -1,0 +1,183 @@
+// SPDX-FileCopyrightText: 2026 Brevano contributors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include <NxVBLEngine/NxEngineProject.h>
+
+#include <NxCore/NxFile.h>
+#include <NxCore/NxLog.h>
+#include <NxVBLEngine/disk/NxDiskThread.h>
+#include <NxVBLEngine/disk/NxPresenceKeeper.h>
+#include <NxVBLEngine/import/NxEngineImporter.h>
+#include <NxVBLEngine/objects/NxEngineCategory.h>
+#include <NxVBLEngine/objects/NxEngineFolder.h>
+#include <NxVBLEngine/objects/NxEngineUndoStack.h>
+#include <NxVBLEngine/objects/NxProjectMemory.h>
+
+#include <QCoreApplication>
+#include <QThread>
+
+#include <algorithm>
+
+using namespace NXVBLMODEL;
+
+NxEngineProject::NxEngineProject()
+    : NxEngineProject(nullptr)
+{
+    attachServices();
+}
+
+NxEngineProject::NxEngineProject(std::unique_ptr<NxProjectStore> store)
+    : m_store(std::move(store))
+    , m_memory(std::make_unique<NxProjectMemory>(m_store ? m_store->path() : QString()))
+    , m_disk(std::make_shared<NxDiskThread>())
+    , m_presence(std::make_unique<NxPresenceKeeper>(m_memory.get(), m_disk))
+{
+}
+
+NxResult<std::unique_ptr<NxEngineProject>> NxEngineProject::open(
+    std::unique_ptr<NxProjectStore> store)
+{
+    std::unique_ptr<NxEngineProject> project(new NxEngineProject(std::move(store)));
+    const NxResult<void> loaded = project->load();
+    if (!loaded)
+        return loaded.error();
+    project->attachStore();
+    project->attachServices();
+    return project;
+}
+
+NxEngineProject::~NxEngineProject()
+{
+    const NxResult<void> closed = close();
+    if (!closed)
+        NX_LOG_ERROR("%s", qUtf8Printable(closed.error().message));
+}
+
+NxResult<void> NxEngineProject::load()
+{
+    NxResult<NxProjectContents> contents = m_store->load();
+    if (!contents)
+        return contents.error();
+    m_damage = contents->damage;
+    m_memory->load(contents.take());
+    m_memory->setReadOnly(m_store->isReadOnly());
+    return {};
+}
+
+void NxEngineProject::attachStore()
+{
+    m_memory->setWriter([this](NxStoreBatch batch) { m_store->write(std::move(batch)); });
+    m_store->setFailureHandler([this](const NxError &failure) {
+        m_writeFailure = failure.message;
+        m_memory->setReadOnly(true);
+        NX_LOG_ERROR("%s", qUtf8Printable(failure.message));
+    });
+}
+
+void NxEngineProject::attachServices()
+{
+    for (int category = 0; category < MediaCategoryCount; ++category) {
+        NxEngineCategory *owner = m_memory->category(category);
+        const auto &sections = owner->root()->children();
+        const bool takesFiles = std::any_of(sections.begin(), sections.end(),
+            [](const NxEngineFolder *section) { return section->canAddFolder(); });
+        if (!takesFiles)
+            continue;
+        m_importers.push_back(std::make_unique<NxEngineImporter>(
+            m_memory.get(), owner, m_disk, m_store.get()));
+        owner->setImporter(m_importers.back().get());
+    }
+    m_presence->setRelativePaths(m_memory->takeRelativePaths());
+    NxFile::setAnswerer([keeper = m_presence.get()](const QString &path) -> std::optional<bool> {
+        if (QThread::currentThread() != QCoreApplication::instance()->thread())
+            return std::nullopt;
+        return keeper->known(path);
+    });
+    m_presence->start();
+}
+
+void NxEngineProject::stopServices()
+{
+    NxFile::setAnswerer({});
+    m_presence.reset();
+    for (const auto &importer : m_importers)
+        importer->stopAll(); // Their jobs end with the last commit.
+}
+
+void NxEngineProject::releaseServices()
+{
+    for (int category = 0; category < MediaCategoryCount; ++category)
+        m_memory->category(category)->setImporter(nullptr);
+    m_importers.clear();
+    m_disk.reset();
+}
+
+NxResult<void> NxEngineProject::close()
+{
+    if (!m_disk)
+        return {};
+    stopServices();
+    m_memory->flush();
+    m_memory->setWriter({});
+    const NxResult<void> closed = m_store ? m_store->close() : NxResult<void>();
+    releaseServices();
+    m_store.reset();
+    return closed;
+}
+
+bool NxEngineProject::isObserved() const
+{
+    for (int category = 0; category < MediaCategoryCount; ++category) {
+        const NxEngineCategory *owner = m_memory->category(category);
+        if (!owner->itemObservers.isEmpty() || !owner->folderObservers.isEmpty())
+            return true;
+    }
+    return false;
+}
+
+QString NxEngineProject::path() const
+{
+    return m_memory->projectPath();
+}
+
+bool NxEngineProject::isReadOnly() const
+{
+    return m_memory->isReadOnly();
+}
+
+QString NxEngineProject::readOnlyReason() const
+{
+    if (!m_writeFailure.isEmpty())
+        return m_writeFailure;
+    if (!m_damage.isEmpty())
+        return m_damage;
+    return m_store ? m_store->readOnlyReason() : QString();
+}
+
+INxUndoStack *NxEngineProject::undoStack()
+{
+    return m_memory->undoStack();
+}
+
+void NxEngineProject::requestCommit(std::function<void(const NxResult<void> &)> done)
+{
+    m_memory->flush();
+    if (m_store)
+        m_store->commit(std::move(done));
+    else
+        INxProject::requestCommit(std::move(done));
+}
+
+void NxEngineProject::saveCopy(
+    const QString &path, std::function<void(const NxResult<void> &)> done)
+{
+    m_memory->flush();
+    if (m_store)
+        m_store->saveCopy(path, std::move(done));
+    else
+        INxProject::saveCopy(path, std::move(done));
+}
+
+INxMediaManager *NxEngineProject::mediaManager(NxMediaCategoryType category)
+{
+    return m_memory->category(category);
+}

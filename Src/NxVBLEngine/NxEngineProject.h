@@ -1,0 +1,64 @@
+// SPDX-FileCopyrightText: 2026 Brevano contributors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#pragma once
+
+#include <NxVBLEngine/NxVBLEngineExport.h>
+#include <NxVBLEngine/store/NxProjectStore.h>
+#include <NxVBLModel/INxMediaLibrary.h>
+#include <NxVBLModel/INxProject.h>
+
+#include <memory>
+#include <vector>
+
+class NxDiskThread;
+class NxEngineImporter;
+class NxPresenceKeeper;
+class NxProjectMemory;
+
+/// Everything that belongs to one open project: its memory, its store, its importers and what
+/// watches its files.
+class NXVBLENGINE_TEST_EXPORT NxEngineProject final : public INxProject, public INxMediaLibrary
+{
+public:
+    /// A project without a file, for tests and previews.
+    NxEngineProject();
+    /// Takes over an open store and loads it.
+    [[nodiscard]] static NxResult<std::unique_ptr<NxEngineProject>> open(
+        std::unique_ptr<NxProjectStore> store);
+    ~NxEngineProject() override;
+
+    [[nodiscard]] NxProjectMemory *memory() const { return m_memory.get(); }
+    [[nodiscard]] NxProjectStore *store() const { return m_store.get(); }
+    [[nodiscard]] NxPresenceKeeper *presenceKeeper() const { return m_presence.get(); }
+    /// True while somebody observes one of the managers.
+    [[nodiscard]] bool isObserved() const;
+    /// What could not be read of a damaged file; empty when all could.
+    [[nodiscard]] QString damage() const { return m_damage; }
+    /// Stops jobs, writes what waits and closes the file.
+    [[nodiscard]] NxResult<void> close();
+
+    QString path() const override;
+    bool isReadOnly() const override;
+    QString readOnlyReason() const override;
+    INxMediaLibrary *mediaLibrary() override { return this; }
+    INxUndoStack *undoStack() override;
+    void requestCommit(std::function<void(const NxResult<void> &)> done) override;
+    void saveCopy(const QString &path, std::function<void(const NxResult<void> &)> done) override;
+    INxMediaManager *mediaManager(NXVBLMODEL::NxMediaCategoryType category) override;
+
+private:
+    explicit NxEngineProject(std::unique_ptr<NxProjectStore> store);
+    [[nodiscard]] NxResult<void> load();
+    void attachStore();
+    void attachServices();
+    void stopServices();
+    void releaseServices();
+
+    std::unique_ptr<NxProjectStore> m_store; // Null for a project without a file.
+    std::unique_ptr<NxProjectMemory> m_memory;
+    std::shared_ptr<NxDiskThread> m_disk;
+    std::unique_ptr<NxPresenceKeeper> m_presence;
+    std::vector<std::unique_ptr<NxEngineImporter>> m_importers;
+    QString m_damage;
+    QString m_writeFailure; // Why nothing is written any more.
+};

@@ -1,0 +1,11 @@
+list(APPEND NXVBLENGINE_SOURCES
+    records/NxChange.cpp
+    records/NxChange.h
+    records/NxFolderRecord.h
+    records/NxLosslessText.cpp
+    records/NxLosslessText.h
+    records/NxMediaRecord.h
+    records/NxProjectContents.h
+    records/NxResourceRecord.h
+    records/NxStoreBatch.h
+    records/NxUndoRecord.h)

@@ -1,0 +1,358 @@
+// SPDX-FileCopyrightText: 2026 Brevano contributors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include <NxVBLEngine/store/NxProjectReader.h>
+
+#include <NxVBLEngine/store/NxSqliteDatabase.h>
+
+#include <QCoreApplication>
+
+#include <algorithm>
+#include <limits>
+#include <tuple>
+
+namespace {
+
+using Step = NxSqliteStatement::Step;
+
+constexpr int MostCategories = 11;
+constexpr qint64 BeforeAllKeys = std::numeric_limits<qint64>::min();
+
+QString translated(const char *text)
+{
+    return QCoreApplication::translate("NxProjectStore", text);
+}
+
+/// Reads numbers that must fit a smaller type; remembers whether one did not.
+class Narrowing
+{
+public:
+    explicit Narrowing(const NxSqliteStatement &statement) : m_statement(statement) {}
+
+    int integer(int column)
+    {
+        const qint64 wide = m_statement.integer(column);
+        m_fits = m_fits && wide == qint64(int(wide));
+        return int(wide);
+    }
+    bool flag(int column)
+    {
+        const qint64 wide = m_statement.integer(column);
+        m_fits = m_fits && (wide == 0 || wide == 1);
+        return wide == 1;
+    }
+    qint64 time(int column) const
+    {
+        return m_statement.isNull(column) ? NxNoTime : m_statement.integer(column);
+    }
+    [[nodiscard]] bool fits() const { return m_fits; }
+
+private:
+    const NxSqliteStatement &m_statement;
+    bool m_fits = true;
+};
+
+bool isCategory(int category)
+{
+    return category >= 0 && category < MostCategories;
+}
+
+bool readFolder(const NxSqliteStatement &row, NxFolderRecord *folder)
+{
+    Narrowing from(row);
+    folder->id = from.integer(0);
+    folder->category = from.integer(1);
+    folder->parent = from.integer(2);
+    folder->place = row.integer(3);
+    folder->name = row.text(4);
+    folder->alive = from.flag(5);
+    return from.fits() && folder->id > 0 && isCategory(folder->category) && folder->parent >= 0;
+}
+
+bool readOneMedia(const NxSqliteStatement &row, NxMediaRecord *media)
+{
+    Narrowing from(row);
+    media->id = row.integer(0);
+    media->category = from.integer(1);
+    media->folder = from.integer(2);
+    media->place = row.integer(3);
+    media->name = row.text(4);
+    media->path = row.text(5);
+    media->canonicalPath = row.text(6);
+    media->relativePath = row.text(7);
+    media->size = row.integer(8);
+    media->created = from.time(9);
+    media->modified = from.time(10);
+    media->favourite = from.time(11);
+    media->used = from.integer(12);
+    media->importKind = from.integer(13);
+    media->kindCode = from.integer(14);
+    media->alive = from.flag(15);
+    return from.fits() && media->id > 0 && isCategory(media->category) && media->folder >= 0
+           && media->size >= -1;
+}
+
+bool readResource(const NxSqliteStatement &row, NxResourceRecord *resource)
+{
+    resource->id = row.integer(0);
+    resource->name = row.text(1);
+    resource->favourite = Narrowing(row).time(2);
+    return true;
+}
+
+bool readStep(const NxSqliteStatement &row, NxUndoRecord *step)
+{
+    step->serial = row.integer(0);
+    step->function = row.text(1);
+    step->action = row.text(2);
+    return step->serial > 0;
+}
+
+struct ChangeRow
+{
+    qint64 id = 0;
+    qint64 step = 0;
+    NxChange change;
+};
+
+bool readChange(const NxSqliteStatement &row, ChangeRow *change)
+{
+    Narrowing from(row);
+    change->id = row.integer(0);
+    change->step = row.integer(1);
+    const int kind = from.integer(2);
+    change->change.what = NxChangeKind(kind);
+    change->change.category = from.integer(3);
+    return from.fits() && kind >= int(NxChangeKind::FolderAdd)
+           && kind <= int(NxChangeKind::ResourceFavourite) && isCategory(change->change.category)
+           && unpackIds(row.blob(4), &change->change.ids)
+           && unpackState(row.blob(5), &change->change.before)
+           && unpackState(row.blob(6), &change->change.after);
+}
+
+qint64 keyOf(const NxFolderRecord &folder)
+{
+    return folder.id;
+}
+qint64 keyOf(const NxMediaRecord &media)
+{
+    return media.id;
+}
+qint64 keyOf(const NxResourceRecord &resource)
+{
+    return resource.id;
+}
+qint64 keyOf(const NxUndoRecord &step)
+{
+    return step.serial;
+}
+qint64 keyOf(const ChangeRow &change)
+{
+    return change.id;
+}
+
+template<typename Row>
+void sortAndThin(std::vector<Row> *rows)
+{
+    std::stable_sort(rows->begin(), rows->end(),
+                     [](const Row &a, const Row &b) { return keyOf(a) < keyOf(b); });
+    rows->erase(std::unique(rows->begin(), rows->end(),
+                            [](const Row &a, const Row &b) { return keyOf(a) == keyOf(b); }),
+                rows->end());
+}
+
+/// Where a media is listed; the id makes it one order.
+auto listedAt(const NxMediaRecord &media)
+{
+    return std::make_tuple(media.category, media.folder, media.place, media.id);
+}
+
+struct ListedMedia
+{
+    decltype(listedAt(NxMediaRecord())) at;
+    size_t index;
+};
+
+/// Moves rows so that the one at order[i].index comes to stand at i.
+void rearrange(std::vector<NxMediaRecord> *rows, std::vector<ListedMedia> *order)
+{
+    for (size_t start = 0; start < order->size(); ++start) {
+        if (order->at(start).index == start)
+            continue;
+        NxMediaRecord first = std::move((*rows)[start]);
+        size_t hole = start;
+        while (true) {
+            const size_t next = (*order)[hole].index;
+            (*order)[hole].index = hole;
+            if (next == start)
+                break;
+            (*rows)[hole] = std::move((*rows)[next]);
+            hole = next;
+        }
+        (*rows)[hole] = std::move(first);
+    }
+}
+
+} // namespace
+
+NxProjectReader::NxProjectReader(NxSqliteDatabase *database) : m_database(database) {}
+
+NxProjectContents NxProjectReader::read(const QString &damage)
+{
+    if (!damage.isEmpty())
+        m_damage += damage;
+    readMeta();
+    readFolders();
+    readMedia();
+    readResources();
+    readUndo();
+    if (m_impossible > 0) {
+        m_damage += QCoreApplication::translate("NxProjectStore",
+                                                "%n entry(s) with impossible values are left out",
+                                                nullptr, int(std::min<qint64>(m_impossible, 1e9)));
+    }
+    m_damage.removeDuplicates();
+    m_contents.damage = m_damage.join(QLatin1String("; "));
+    return std::move(m_contents);
+}
+
+void NxProjectReader::readMeta()
+{
+    NxStoreEntry::Counters &counters = m_contents.counters;
+    counters.nextMediaId = metaNumber("next_media_id", 1);
+    counters.nextPlace = metaNumber("next_place", 1);
+    counters.nextFolderId = int(metaNumber("next_folder_id", 1001));
+    counters.nextStepSerial = metaNumber("next_step_serial", 1);
+    m_contents.undoDone = int(metaNumber("undo_done", 0));
+
+    NxSqliteStatement folder =
+        m_database->prepare("SELECT value FROM meta WHERE key = 'project_folder'");
+    if (folder.step() == Step::Row)
+        m_contents.projectFolder = folder.text(0);
+}
+
+qint64 NxProjectReader::metaNumber(const char *key, qint64 fallback)
+{
+    const QByteArray sql = QByteArray("SELECT value FROM meta WHERE key = '") + key + '\'';
+    NxSqliteStatement statement = m_database->prepare(sql.constData());
+    if (statement.step() == Step::Row)
+        return statement.integer(0);
+    m_damage += translated("its counters cannot be read");
+    return fallback;
+}
+
+void NxProjectReader::readFolders()
+{
+    const Table table{QT_TRANSLATE_NOOP("NxProjectStore", "the list of folders breaks off"),
+                      "SELECT id, category, parent, place, name, alive FROM folder", "id"};
+    readTable(table, &m_contents.folders, readFolder);
+    std::sort(m_contents.folders.begin(), m_contents.folders.end(),
+              [](const NxFolderRecord &a, const NxFolderRecord &b) {
+                  return std::tie(a.category, a.id) < std::tie(b.category, b.id);
+              });
+}
+
+void NxProjectReader::readMedia()
+{
+    const Table table{QT_TRANSLATE_NOOP("NxProjectStore", "the list of media breaks off"),
+                      "SELECT id, category, folder, place, name, path, canonical_path,"
+                      " relative_path, size, created, modified, favourite, used, import_kind,"
+                      " kind_code, alive FROM media",
+                      "id"};
+    m_contents.media.reserve(size_t(mediaEstimate()));
+    readTable(table, &m_contents.media, readOneMedia);
+    sortMedia();
+}
+
+qint64 NxProjectReader::mediaEstimate()
+{
+    // Counting would read the whole table once more. Neither bound is exact; both are safe.
+    constexpr qint64 shortestRow = 40;
+    const qint64 bytes =
+        m_database->number("PRAGMA page_count", 0) * m_database->number("PRAGMA page_size", 0);
+    const qint64 highestId = m_database->number("SELECT max(id) FROM media", 0);
+    return std::max<qint64>(0, std::min(bytes / shortestRow, highestId));
+}
+
+void NxProjectReader::sortMedia()
+{
+    std::vector<NxMediaRecord> &media = m_contents.media;
+    const bool isSorted = std::is_sorted(
+        media.begin(), media.end(),
+        [](const NxMediaRecord &a, const NxMediaRecord &b) { return listedAt(a) < listedAt(b); });
+    if (isSorted)
+        return;
+
+    std::vector<ListedMedia> order;
+    order.reserve(media.size());
+    for (size_t index = 0; index < media.size(); ++index)
+        order.push_back({listedAt(media[index]), index});
+    std::sort(order.begin(), order.end(),
+              [](const ListedMedia &a, const ListedMedia &b) { return a.at < b.at; });
+    rearrange(&media, &order);
+}
+
+void NxProjectReader::readResources()
+{
+    const Table table{QT_TRANSLATE_NOOP("NxProjectStore", "the list of resources breaks off"),
+                      "SELECT id, name, favourite FROM resource", "id"};
+    readTable(table, &m_contents.resources, readResource);
+}
+
+void NxProjectReader::readUndo()
+{
+    const Table stepTable{QT_TRANSLATE_NOOP("NxProjectStore", "the undo steps break off"),
+                          "SELECT serial, function, action FROM undo_step", "serial"};
+    readTable(stepTable, &m_contents.undoSteps, readStep);
+
+    const Table changeTable{QT_TRANSLATE_NOOP("NxProjectStore", "the undo steps break off"),
+                            "SELECT id, step, kind, category, ids, before, after FROM undo_change",
+                            "id"};
+    std::vector<ChangeRow> changes;
+    readTable(changeTable, &changes, readChange);
+
+    std::vector<NxUndoRecord> &steps = m_contents.undoSteps;
+    for (ChangeRow &row : changes) {
+        const auto step = std::lower_bound(
+            steps.begin(), steps.end(), row.step,
+            [](const NxUndoRecord &record, qint64 serial) { return record.serial < serial; });
+        if (step != steps.end() && step->serial == row.step)
+            step->changes.append(std::move(row.change));
+        else
+            ++m_impossible;
+    }
+    const int stepCount = int(steps.size());
+    if (m_contents.undoDone < 0 || m_contents.undoDone > stepCount) {
+        m_damage += translated("the place within the undo steps is impossible");
+        m_contents.undoDone = std::clamp(m_contents.undoDone, 0, stepCount);
+    }
+}
+
+template<typename Row, typename Read>
+void NxProjectReader::readTable(const Table &table, std::vector<Row> *rows, const Read &read)
+{
+    const auto readOnwards = [&](const char *order, qint64 after, qint64 *lastKey) {
+        const QByteArray sql = QByteArray(table.select) + " WHERE " + table.key + " > ?1 ORDER BY "
+                               + table.key + order;
+        NxSqliteStatement statement = m_database->prepare(sql.constData());
+        statement.bind(1, after);
+        Step step = Step::Row;
+        while ((step = statement.step()) == Step::Row) {
+            *lastKey = statement.integer(0);
+            rows->emplace_back();
+            if (read(statement, &rows->back()))
+                continue;
+            rows->pop_back();
+            ++m_impossible;
+        }
+        return step == Step::Done;
+    };
+
+    qint64 lastAscending = BeforeAllKeys;
+    if (readOnwards("", BeforeAllKeys, &lastAscending))
+        return;
+    m_damage += translated(table.title);
+    qint64 lastDescending = 0;
+    if (!readOnwards(" DESC", lastAscending, &lastDescending))
+        m_damage += translated(table.title);
+    sortAndThin(rows);
+}

@@ -1,0 +1,124 @@
+// SPDX-FileCopyrightText: 2026 Brevano contributors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include <NxVBLEngine/store/NxProjectSchema.h>
+
+#include <NxVBLEngine/store/NxSqliteDatabase.h>
+#include <NxVBLEngine/store/NxSqliteTransaction.h>
+
+#include <QCoreApplication>
+
+namespace {
+
+/// Unknown times are NULL. Ids, places and serials are given out by memory, never by SQLite.
+/// Living media have different paths, which memory sees to; an index would only double the work.
+constexpr const char *FirstTables = R"sql(
+PRAGMA application_id = 1114797678;
+CREATE TABLE meta(
+    key TEXT NOT NULL PRIMARY KEY,
+    value ANY
+) STRICT, WITHOUT ROWID;
+CREATE TABLE folder(
+    id INTEGER PRIMARY KEY,
+    category INTEGER NOT NULL,
+    parent INTEGER NOT NULL,
+    place INTEGER NOT NULL,
+    name TEXT NOT NULL,
+    alive INTEGER NOT NULL
+) STRICT;
+CREATE TABLE media(
+    id INTEGER PRIMARY KEY,
+    category INTEGER NOT NULL,
+    folder INTEGER NOT NULL,
+    place INTEGER NOT NULL,
+    name TEXT NOT NULL,
+    path TEXT NOT NULL,
+    canonical_path TEXT NOT NULL,
+    relative_path TEXT NOT NULL,
+    size INTEGER NOT NULL,
+    created INTEGER,
+    modified INTEGER,
+    favourite INTEGER,
+    used INTEGER NOT NULL,
+    import_kind INTEGER NOT NULL,
+    kind_code INTEGER NOT NULL,
+    alive INTEGER NOT NULL
+) STRICT;
+CREATE TABLE resource(
+    id INTEGER PRIMARY KEY,
+    name TEXT NOT NULL,
+    favourite INTEGER
+) STRICT;
+CREATE TABLE undo_step(
+    serial INTEGER PRIMARY KEY,
+    function TEXT NOT NULL,
+    action TEXT NOT NULL
+) STRICT;
+CREATE TABLE undo_change(
+    id INTEGER PRIMARY KEY,
+    step INTEGER NOT NULL,
+    kind INTEGER NOT NULL,
+    category INTEGER NOT NULL,
+    ids BLOB NOT NULL,
+    before BLOB NOT NULL,
+    after BLOB NOT NULL
+) STRICT;
+CREATE INDEX undo_change_step ON undo_change(step);
+)sql";
+
+static_assert(NxProjectSchema::ApplicationId == 1114797678);
+
+bool makeFirstTables(NxSqliteDatabase &database)
+{
+    return database.execute(FirstTables);
+}
+
+bool setVersion(NxSqliteDatabase *database, size_t version)
+{
+    const QByteArray sql = "PRAGMA user_version = " + QByteArray::number(qulonglong(version));
+    return database->execute(sql.constData());
+}
+
+} // namespace
+
+const std::vector<NxSchemaStep> &NxProjectSchema::steps()
+{
+    static const std::vector<NxSchemaStep> all{makeFirstTables};
+    return all;
+}
+
+int NxProjectSchema::currentVersion()
+{
+    return int(steps().size());
+}
+
+NxResult<void> NxProjectSchema::migrate(NxSqliteDatabase *database,
+                                        const std::vector<NxSchemaStep> &migrations)
+{
+    const qint64 version = database->number("PRAGMA user_version", -1);
+    if (version < 0)
+        return database->failure(NxStoreDeed::Read);
+    if (version > qint64(migrations.size()))
+        return newerVersion(database->path(), version);
+    if (version == qint64(migrations.size()))
+        return {};
+
+    NxSqliteTransaction transaction(database);
+    if (!transaction.isOpen())
+        return database->failure(NxStoreDeed::Write);
+    for (size_t next = size_t(version); next < migrations.size(); ++next) {
+        if (!migrations.at(next)(*database) || !setVersion(database, next + 1))
+            return database->failure(NxStoreDeed::Write);
+    }
+    if (!transaction.commit())
+        return database->failure(NxStoreDeed::Write);
+    return {};
+}
+
+NxError NxProjectSchema::newerVersion(const QString &path, qint64 version)
+{
+    return NxStoreCause::error(
+        path, QCoreApplication::translate("NxProjectStore", "was made by a newer version "
+                                                            "(schema %1, this program knows %2)")
+                  .arg(version)
+                  .arg(currentVersion()));
+}

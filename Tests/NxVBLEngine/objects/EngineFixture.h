@@ -1,0 +1,39 @@
+// SPDX-FileCopyrightText: 2026 Brevano contributors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#pragma once
+
+#include <NxVBLEngine/objects/NxEngineCategory.h>
+#include <NxVBLEngine/objects/NxEngineFolder.h>
+#include <NxVBLEngine/objects/NxEngineFolderManager.h>
+#include <NxVBLEngine/objects/NxEngineItemManager.h>
+#include <NxVBLEngine/objects/NxEngineMedia.h>
+#include <NxVBLEngine/objects/NxEngineUndoStack.h>
+#include <NxVBLEngine/objects/NxProjectMemory.h>
+#include <NxVBLModel/NxMediaRef.h>
+
+#include <QStringList>
+
+/// A project in memory with the project media section at hand.
+struct EngineFixture
+{
+    EngineFixture();
+
+    NxProjectMemory memory;
+    NxEngineCategory *const category;
+    NxEngineFolder *const section;
+    NxEngineFolderManager *const folders;
+    NxEngineItemManager *const items;
+    NxEngineUndoStack *const undo;
+
+    /// A new media "/footage/NAME".
+    NxEngineMedia *addMedia(NxEngineFolder *folder, const QString &name);
+    QVector<NxEngineMedia *> addMedia(NxEngineFolder *folder, const QStringList &names);
+    NxEngineFolder *addFolder(NxEngineFolder *parent, const QString &name);
+    [[nodiscard]] NxEngineMedia *named(const QString &name) const;
+};
+
+/// Names of what a folder lists, separated by blanks.
+[[nodiscard]] QString listing(const INxFolderMedia *folder, bool recursive = true);
+
+/// Every folder and every item of every category with the answer of every query, as text.
+[[nodiscard]] QByteArray projectDump(const NxProjectMemory &memory);

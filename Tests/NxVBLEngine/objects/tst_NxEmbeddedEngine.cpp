@@ -1,0 +1,341 @@
+// SPDX-FileCopyrightText: 2026 Brevano contributors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include "EngineFixture.h"
+#include "RandomSession.h"
+
+#include <NxCore/INxUndoStack.h>
+#include <NxCore/NxFile.h>
+#include <NxVBLEngine/NxEmbeddedEngine.h>
+#include <NxVBLEngine/NxEngineProject.h>
+#include <NxVBLModel/INxFolderMedia.h>
+#include <NxVBLModel/INxFolderMediaManager.h>
+#include <NxVBLModel/INxMediaImporter.h>
+#include <NxVBLModel/INxMediaItemEventObserver.h>
+#include <NxVBLModel/INxMediaItemManager.h>
+#include <NxVBLModel/INxProjectManager.h>
+#include <NxVBLModel/NxMediaEngineDoor.h>
+#include <NxVBLModel/NxObserverConnector.h>
+
+#include <Support/NxFootageGuard.h>
+#include <Support/NxTempDir.h>
+#include <Support/NxTestMain.h>
+
+#include <QFile>
+#include <QRandomGenerator>
+#include <QSignalSpy>
+#include <QTemporaryDir>
+#include <QtTest>
+
+using namespace NXVBLMODEL;
+
+namespace {
+
+QByteArray dumpOf(INxProject *project)
+{
+    return projectDump(*static_cast<NxEngineProject *>(project)->memory());
+}
+
+INxMediaManager *mediaOf(INxProject *project)
+{
+    return project->mediaLibrary()->mediaManager(mctMedia);
+}
+
+INxFolderMedia *sectionOf(INxProject *project)
+{
+    return mediaOf(project)->folderManager()->folder(fidRoot);
+}
+
+bool commit(INxProject *project)
+{
+    int answers = 0;
+    bool good = false;
+    project->requestCommit([&](const NxResult<void> &result) {
+        ++answers;
+        good = bool(result);
+    });
+    return QTest::qWaitFor([&answers] { return answers == 1; }) && good;
+}
+
+} // namespace
+
+class tst_NxEmbeddedEngine : public QObject
+{
+    Q_OBJECT
+
+private:
+    QTemporaryDir m_folder;
+    int m_count = 0;
+
+    QString freshPath()
+    {
+        return m_folder.filePath(QStringLiteral("p%1.brevano").arg(++m_count));
+    }
+
+    QString footage(const QString &name)
+    {
+        const QString path = m_folder.filePath(name);
+        QFile file(path);
+        if (!file.open(QIODevice::WriteOnly))
+            return {};
+        file.write("not read yet");
+        return path;
+    }
+
+    static NxEmbeddedEngine::Options noBackups()
+    {
+        NxEmbeddedEngine::Options options;
+        options.backups = false;
+        return options;
+    }
+
+private Q_SLOTS:
+    void oneProjectIsCurrentAtATime()
+    {
+        NxEmbeddedEngine engine(noBackups());
+        const NxMediaEngineDoor door(&engine);
+        QCOMPARE(INxProjectManager::getInstance()->currentProject(), nullptr);
+        const QString path = freshPath();
+        const auto created = engine.createProject(path);
+        QVERIFY2(created, qPrintable(created.errorText()));
+        QCOMPARE(INxProjectManager::getInstance()->currentProject(), *created);
+        QCOMPARE((*created)->path(), path);
+        QVERIFY(!(*created)->isReadOnly());
+
+        const auto second = engine.createProject(freshPath());
+        QVERIFY(!second);
+        QVERIFY(second.errorText().contains(path));
+        QVERIFY(!engine.openProject(path, NxProjectOpenMode::ReadWrite));
+
+        QVERIFY(engine.closeProject());
+        QCOMPARE(engine.currentProject(), nullptr);
+        QVERIFY(engine.closeProject());
+    }
+
+    void aProjectIsNotMadeOverAFile()
+    {
+        NxEmbeddedEngine engine(noBackups());
+        const QString path = footage(QStringLiteral("notes.brevano"));
+        const NxFootageGuard guard(m_folder.path());
+        const auto created = engine.createProject(path);
+        QVERIFY(!created);
+        QVERIFY(created.errorText().contains(path));
+        const auto opened = engine.openProject(path, NxProjectOpenMode::ReadWrite);
+        QVERIFY(!opened);
+        QVERIFY(opened.errorText().contains(path));
+        NX_VERIFY_UNTOUCHED(guard);
+    }
+
+    void itStaysOpenWhileSomebodyObserves()
+    {
+        NxEmbeddedEngine engine(noBackups());
+        const auto project = engine.createProject(freshPath());
+        QVERIFY(project);
+        INxMediaItemEventObserver observer;
+        {
+            const NxObserverConnectorT<INxMediaItemManager, INxMediaItemEventObserver> connector(
+                mediaOf(*project)->itemManager(), &observer);
+            QVERIFY(connector.isConnected());
+            NxTestLog::expectError(QStringLiteral("still observed"));
+            QVERIFY(!engine.closeProject());
+            QVERIFY(engine.currentProject());
+        }
+        QVERIFY(engine.closeProject());
+    }
+
+    void everythingIsThereWhenOpenedAgain()
+    {
+        const QString path = freshPath();
+        QByteArray before;
+        {
+            NxEmbeddedEngine engine(noBackups());
+            const auto project = engine.createProject(path);
+            QVERIFY(project);
+            auto *memory = static_cast<NxEngineProject *>(*project)->memory();
+            RandomSession user(memory, 11);
+            for (int i = 0; i < 400; ++i)
+                user.step();
+            before = dumpOf(*project);
+            QVERIFY(engine.closeProject());
+        }
+        NxEmbeddedEngine engine(noBackups());
+        const auto project = engine.openProject(path, NxProjectOpenMode::ReadWrite);
+        QVERIFY2(project, qPrintable(project.errorText()));
+        QCOMPARE(dumpOf(*project), before);
+        QCOMPARE(engine.integrityProblems().join(QLatin1Char('\n')), QString());
+    }
+
+    void randomSessionsSurviveClosingAndUndoInTheNextProcess_data()
+    {
+        QTest::addColumn<quint32>("seed");
+        for (quint32 seed = 1; seed <= 5; ++seed)
+            QTest::addRow("seed %u", seed) << seed;
+        const quint32 fresh = QRandomGenerator::system()->generate();
+        QTest::addRow("fresh seed %u", fresh) << fresh;
+    }
+
+    void randomSessionsSurviveClosingAndUndoInTheNextProcess()
+    {
+        QFETCH(quint32, seed);
+        const QString path = freshPath();
+        NxEmbeddedEngine engine(noBackups());
+        QVERIFY(engine.createProject(path));
+        for (int round = 0; round < 4; ++round) {
+            auto *memory = static_cast<NxEngineProject *>(engine.currentProject())->memory();
+            RandomSession user(memory, seed * 10 + quint32(round));
+            for (int i = 0; i < 250; ++i)
+                user.step();
+            const QByteArray end = dumpOf(engine.currentProject());
+            const int done = memory->undoStack()->index();
+            QVERIFY(engine.closeProject());
+            const auto again = engine.openProject(path, NxProjectOpenMode::ReadWrite);
+            QVERIFY2(again, qPrintable(again.errorText()));
+            QCOMPARE(dumpOf(*again), end);
+            QCOMPARE(engine.integrityProblems().join(QLatin1Char('\n')), QString());
+
+            INxUndoStack *undo = (*again)->undoStack();
+            QCOMPARE(undo->index(), done);
+            while (undo->undo()) { }
+            while (undo->index() < done)
+                QVERIFY(undo->redo());
+            QCOMPARE(dumpOf(*again), end);
+        }
+    }
+
+    void readOnlyProjectsSayWhyAndChangeNothing()
+    {
+        const QString path = freshPath();
+        {
+            NxEmbeddedEngine engine(noBackups());
+            const auto project = engine.createProject(path);
+            QVERIFY(project);
+            QVERIFY(mediaOf(*project)->folderManager()->addFolder(sectionOf(*project),
+                                                                  QStringLiteral("A")));
+            QVERIFY(engine.closeProject());
+        }
+        const NxFootageGuard guard(m_folder.path());
+        NxEmbeddedEngine engine(noBackups());
+        const auto project = engine.openProject(path, NxProjectOpenMode::ReadOnly);
+        QVERIFY(project);
+        QVERIFY((*project)->isReadOnly());
+        QVERIFY(!(*project)->readOnlyReason().isEmpty());
+        QVERIFY(!mediaOf(*project)->folderManager()->addFolder(sectionOf(*project),
+                                                               QStringLiteral("B")));
+        NxTestLog::expectError(QStringLiteral("the project is read-only"));
+        QCOMPARE(mediaOf(*project)->importer()->start(sectionOf(*project), {path}, mitFiles),
+                 quint64(0));
+        QVERIFY(!(*project)->undoStack()->canUndo());
+        QCOMPARE(sectionOf(*project)->childFolderCount(), 1);
+        QVERIFY(engine.closeProject());
+        NX_VERIFY_UNTOUCHED(guard);
+    }
+
+    void aSecondOpenerSeesTheProjectButDoesNotChangeIt()
+    {
+        const QString path = freshPath();
+        NxEmbeddedEngine first(noBackups());
+        QVERIFY(first.createProject(path));
+        NxEmbeddedEngine second(noBackups());
+        const auto project = second.openProject(path, NxProjectOpenMode::ReadWrite);
+        QVERIFY2(project, qPrintable(project.errorText()));
+        QVERIFY((*project)->isReadOnly());
+        QVERIFY((*project)->readOnlyReason().contains(
+            QString::number(QCoreApplication::applicationPid())));
+        QVERIFY(second.closeProject());
+    }
+
+    void aCommitIsAnsweredOnceItStandsInTheFile()
+    {
+        const QString path = freshPath();
+        NxEmbeddedEngine engine(noBackups());
+        const auto project = engine.createProject(path);
+        QVERIFY(project);
+        QVERIFY(mediaOf(*project)->folderManager()->addFolder(sectionOf(*project),
+                                                              QStringLiteral("A")));
+        QVERIFY(commit(*project));
+        NxEmbeddedEngine reader(noBackups());
+        const auto seen = reader.openProject(path, NxProjectOpenMode::ReadOnly);
+        QVERIFY2(seen, qPrintable(seen.errorText()));
+        QCOMPARE(sectionOf(*seen)->childFolderCount(), 1);
+    }
+
+    void aCopyOpensLikeTheOriginal()
+    {
+        const QString path = freshPath();
+        const QString copy = freshPath();
+        NxEmbeddedEngine engine(noBackups());
+        const auto project = engine.createProject(path);
+        QVERIFY(project);
+        QVERIFY(mediaOf(*project)->folderManager()->addFolder(sectionOf(*project),
+                                                              QStringLiteral("A")));
+        const QByteArray before = dumpOf(*project);
+        int answers = 0;
+        QString problem;
+        (*project)->saveCopy(copy, [&](const NxResult<void> &result) {
+            ++answers;
+            problem = result.errorText();
+        });
+        QTRY_COMPARE(answers, 1);
+        QCOMPARE(problem, QString());
+        QVERIFY(engine.closeProject());
+        const auto copied = engine.openProject(copy, NxProjectOpenMode::ReadWrite);
+        QVERIFY2(copied, qPrintable(copied.errorText()));
+        QCOMPARE(dumpOf(*copied), before);
+    }
+
+    void importedFilesAreThereInTheNextProcess()
+    {
+        const QString path = freshPath();
+        const QString clip = footage(QStringLiteral("clip.mov"));
+        NxEmbeddedEngine engine(noBackups());
+        const auto project = engine.createProject(path);
+        QVERIFY(project);
+        INxMediaImporter *importer = mediaOf(*project)->importer();
+        QSignalSpy finished(importer, &INxMediaImporter::finished);
+        QVERIFY(importer->start(sectionOf(*project), {clip}, mitFiles) != 0);
+        QTRY_COMPARE(finished.count(), 1);
+        QCOMPARE(listing(sectionOf(*project)), QStringLiteral("clip.mov"));
+        QVERIFY(engine.closeProject());
+        const auto again = engine.openProject(path, NxProjectOpenMode::ReadWrite);
+        QVERIFY(again);
+        QCOMPARE(listing(sectionOf(*again)), QStringLiteral("clip.mov"));
+        QCOMPARE((*again)->undoStack()->undoText(), QStringLiteral("importMedia"));
+    }
+
+    void onlyCategoriesThatTakeFilesHaveAnImporter()
+    {
+        NxEmbeddedEngine engine(noBackups());
+        const auto project = engine.createProject(freshPath());
+        QVERIFY(project);
+        for (int category = 0; category < MediaCategoryCount; ++category) {
+            INxMediaManager *manager
+                = (*project)->mediaLibrary()->mediaManager(NxMediaCategoryType(category));
+            QCOMPARE(manager->importer() != nullptr, category <= mctSplitScreen);
+        }
+        QCOMPARE((*project)->mediaLibrary()->mediaManager(mctNone), nullptr);
+    }
+
+    void filesOfTheProjectAreAnsweredFromTheLastLook()
+    {
+        const QString clip = footage(QStringLiteral("here.mov"));
+        NxEmbeddedEngine engine(noBackups());
+        const auto project = engine.createProject(freshPath());
+        QVERIFY(project);
+        mediaOf(*project)->importer()->addNow(sectionOf(*project), {clip}, nullptr);
+        engine.refreshExistence();
+        QVERIFY(NxFile::exists(clip));
+        QVERIFY(QFile::remove(clip));
+        QVERIFY(NxFile::exists(clip)); // Nobody looked yet.
+        engine.refreshExistence();
+        QVERIFY(!NxFile::exists(clip));
+        const auto *item =
+            static_cast<INxAbstractMediaItem *>(sectionOf(*project)->items(true, true).first());
+        QVERIFY(item->isUnavailable());
+        QVERIFY(!item->unavailableReason().isEmpty());
+        QVERIFY(engine.closeProject());
+        QVERIFY(!NxFile::exists(clip));
+        QVERIFY(NxFile::exists(m_folder.path()));
+    }
+};
+
+NX_TEST_MAIN(tst_NxEmbeddedEngine)
+#include "tst_NxEmbeddedEngine.moc"
