@@ -1,0 +1,77 @@
+// SPDX-FileCopyrightText: 2026 Brevano contributors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include <Brevano/commands/CommandHelp.h>
+
+#include <Brevano/commands/CommandTable.h>
+
+namespace {
+
+QString optionText(const CommandOption &option)
+{
+    const QString name = QLatin1String(option.name);
+    return option.valueName ? name + QLatin1Char(' ') + QLatin1String(option.valueName) : name;
+}
+
+/// A synopsis shows the options that it does not name itself as ones that may be left out.
+QString form(const CommandEntry &entry, const char *synopsis)
+{
+    QString text =
+        QStringLiteral("brevano %1 %2").arg(QLatin1String(entry.name), QLatin1String(synopsis));
+    for (const CommandOption &option : entry.options) {
+        const bool isFolderOfOtherForm =
+            entry.synopses.size() > 1 && option.name == CommandOptions::folder.name;
+        if (!text.contains(QLatin1String(option.name)) && !isFolderOfOtherForm)
+            text += QStringLiteral(" [%1]").arg(optionText(option));
+    }
+    return text;
+}
+
+QStringList exitCodes()
+{
+    return {
+        QStringLiteral(
+            "Exit codes: 0 done, 1 nothing done, 2 wrong usage, 3 some files refused or"),
+        QStringLiteral("unreadable, 4 the project cannot be opened or written, 130 interrupted."),
+    };
+}
+
+} // namespace
+
+QStringList CommandHelp::overview()
+{
+    QStringList lines{QStringLiteral("Usage:")};
+    for (const CommandEntry &entry : CommandTable::entries()) {
+        for (const char *synopsis : entry.synopses)
+            lines.append(QLatin1String("  ") + form(entry, synopsis));
+    }
+    lines += {
+        QStringLiteral("  brevano help COMMAND"),
+        QStringLiteral("  brevano --version"),
+        QString(),
+        QStringLiteral("FOLDER is a path within the project: \"Holiday/Day 1\"; \"\\/\" and "
+                       "\"\\\\\" stand for"),
+        QStringLiteral("\"/\" and \"\\\" in a name. NAME_OR_PATH is a path when it contains a "
+                       "separator. After \"--\""),
+        QStringLiteral("every word is a name."),
+        QString(),
+    };
+    return lines + exitCodes();
+}
+
+QStringList CommandHelp::of(const CommandEntry &entry)
+{
+    QStringList lines{QStringLiteral("Usage:")};
+    for (const char *synopsis : entry.synopses)
+        lines.append(QLatin1String("  ") + form(entry, synopsis));
+    lines.append(QString());
+    lines += QString::fromLatin1(entry.help).split(QLatin1Char('\n'));
+    if (!entry.options.isEmpty())
+        lines.append(QString());
+    constexpr int nameWidth = 20;
+    for (const CommandOption &option : entry.options) {
+        lines.append(QLatin1String("  ") + optionText(option).leftJustified(nameWidth)
+                     + QLatin1String(option.help));
+    }
+    lines.append(QString());
+    return lines + exitCodes();
+}

@@ -1,0 +1,115 @@
+// SPDX-FileCopyrightText: 2026 Brevano contributors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include <Brevano/commands/CommandTable.h>
+
+#include <Brevano/commands/BackupCommand.h>
+#include <Brevano/commands/CheckCommand.h>
+#include <Brevano/commands/HistoryCommand.h>
+#include <Brevano/commands/ImportCommand.h>
+#include <Brevano/commands/ListCommand.h>
+#include <Brevano/commands/MkdirCommand.h>
+#include <Brevano/commands/MoveCommand.h>
+#include <Brevano/commands/RemoveCommand.h>
+#include <Brevano/commands/RenameCommand.h>
+
+#include <algorithm>
+
+namespace {
+
+template<typename T>
+std::unique_ptr<Command> make()
+{
+    return std::make_unique<T>();
+}
+
+std::unique_ptr<Command> makeUndo()
+{
+    return std::make_unique<HistoryCommand>(HistoryCommand::Direction::Undo);
+}
+
+std::unique_ptr<Command> makeRedo()
+{
+    return std::make_unique<HistoryCommand>(HistoryCommand::Direction::Redo);
+}
+
+using namespace CommandOptions;
+
+constexpr int any = CommandEntry::AnyNumber;
+
+const QVector<CommandEntry> table{
+    {"import",
+     {"PROJECT FILE|FOLDER..."},
+     "Brings files into a project, which is made when it is not there. A folder is taken with\n"
+     "everything in it that can be imported, and becomes a folder of the project.",
+     {into, section, json},
+     2,
+     any,
+     make<ImportCommand>},
+    {"list",
+     {"PROJECT"},
+     "Lists the media of a project, those of all its folders or of one.",
+     {folder, section, json},
+     1,
+     1,
+     make<ListCommand>},
+    {"mkdir",
+     {"PROJECT FOLDER"},
+     "Makes a folder, and those above it that are not there.",
+     {section},
+     2,
+     2,
+     make<MkdirCommand>},
+    {"rename",
+     {"PROJECT NAME_OR_PATH NEW_NAME", "PROJECT --folder FOLDER NEW_NAME"},
+     "Gives a media or a folder another name. The file keeps its own.",
+     {folder, section},
+     2,
+     3,
+     make<RenameCommand>},
+    {"move",
+     {"PROJECT NAME_OR_PATH... --into FOLDER", "PROJECT --folder FOLDER --into FOLDER"},
+     "Moves media or a folder into another folder. The files stay where they are.",
+     {folder, into, section},
+     1,
+     any,
+     make<MoveCommand>},
+    {"remove",
+     {"PROJECT NAME_OR_PATH...", "PROJECT --folder FOLDER"},
+     "Takes media, or a folder with all that it holds, out of the project. The files stay.",
+     {folder, section},
+     1,
+     any,
+     make<RemoveCommand>},
+    {"undo", {"PROJECT"}, "Takes back the last change.", {}, 1, 1, makeUndo},
+    {"redo", {"PROJECT"}, "Does again what was taken back last.", {}, 1, 1, makeRedo},
+    {"check",
+     {"PROJECT"},
+     "Checks the project file, and looks whether the files of its media are there.",
+     {json},
+     1,
+     1,
+     make<CheckCommand>},
+    {"backup",
+     {"PROJECT FILE"},
+     "Writes a copy of the project to a new file.",
+     {},
+     2,
+     2,
+     make<BackupCommand>},
+};
+
+} // namespace
+
+const QVector<CommandEntry> &CommandTable::entries()
+{
+    return table;
+}
+
+const CommandEntry *CommandTable::find(const QString &name)
+{
+    const QVector<CommandEntry> &all = entries();
+    const auto found = std::find_if(all.cbegin(), all.cend(), [&name](const CommandEntry &entry) {
+        return name == QLatin1String(entry.name);
+    });
+    return found == all.cend() ? nullptr : &*found;
+}

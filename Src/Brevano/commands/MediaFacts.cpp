@@ -1,0 +1,143 @@
+// SPDX-FileCopyrightText: 2026 Brevano contributors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include <Brevano/commands/MediaFacts.h>
+
+#include <Brevano/commands/JsonLine.h>
+#include <Brevano/commands/Sections.h>
+#include <NxCore/NxConvertUtility.h>
+#include <NxCore/NxFile.h>
+#include <NxVBLModel/INxAbstractMediaItem.h>
+#include <NxVBLModel/INxFolderMedia.h>
+#include <NxVBLModel/INxMediaInfo.h>
+#include <NxVBLModel/NxFolderPath.h>
+#include <NxVBLModel/NxStreamInfo.h>
+
+#include <algorithm>
+#include <iterator>
+
+using namespace NXVBLMODEL;
+
+namespace {
+
+struct TypeWord
+{
+    NxMediaType type;
+    const char *word;
+};
+
+constexpr TypeWord typeWords[] = {
+    {mtVideo, "video"}, {mtVideoAudio, "video"}, {mtAudio, "audio"},
+    {mtImage, "image"}, {mtElement, "gif"},      {mtSubtitle, "subtitle"},
+};
+
+/// The facts of a file, or neutral ones while it was not read.
+struct Facts
+{
+    NxVideoStreamInfo video;
+    NxAudioStreamInfo audio;
+    NxImageInfo image;
+    qint64 frames = -1;
+    qint64 milliseconds = -1;
+    NxRational rate;
+};
+
+/// Sound counts in hundredths of a second.
+constexpr qint64 millisecondsPerSoundUnit = 10;
+
+Facts factsOf(const INxMediaInfo *info)
+{
+    Facts facts;
+    if (!info)
+        return facts;
+    if (info->videoStream())
+        facts.video = *info->videoStream();
+    if (info->audioStream())
+        facts.audio = *info->audioStream();
+    if (info->imageInfo())
+        facts.image = *info->imageInfo();
+    if (info->kind() == mikVideo && info->frameRate().isValid() && info->frameRate().num > 0) {
+        facts.rate = info->frameRate();
+        facts.frames = info->frameCount();
+        facts.milliseconds = NxConvertUtility::frame2Msec(facts.frames, facts.rate.toDouble());
+    } else if (info->kind() == mikAudio) {
+        facts.milliseconds = info->duration() * millisecondsPerSoundUnit;
+    }
+    return facts;
+}
+
+QString rateText(const NxRational &rate)
+{
+    return rate.isValid() ? QStringLiteral("%1/%2").arg(rate.num).arg(rate.den) : QString();
+}
+
+} // namespace
+
+QString MediaFacts::typeWord(const INxAbstractMediaItem &media)
+{
+    const auto known =
+        std::find_if(std::begin(typeWords), std::end(typeWords),
+                     [&media](const TypeWord &entry) { return entry.type == media.mediaType(); });
+    return known == std::end(typeWords) ? QStringLiteral("other")
+                                        : QString(QLatin1String(known->word));
+}
+
+QString MediaFacts::folder(const INxAbstractMediaItem &media)
+{
+    return NxFolderPath::of(media.parentFolder());
+}
+
+QString MediaFacts::section(const INxAbstractMediaItem &media)
+{
+    const INxFolderMedia *parent = media.parentFolder();
+    return Sections::wordOf(parent ? parent->owner() : nullptr);
+}
+
+bool MediaFacts::isMissing(const INxAbstractMediaItem &media)
+{
+    return !NxFile::exists(media.sourcePath());
+}
+
+QString MediaFacts::unreadableReason(const INxAbstractMediaItem &media)
+{
+    return media.isUnavailable() && !isMissing(media) ? media.unavailableReason() : QString();
+}
+
+void MediaFacts::addIdentity(JsonLine *line, const INxAbstractMediaItem &media)
+{
+    line->addText("name", media.name());
+    line->addText("path", media.sourcePath());
+    line->addText("section", section(media));
+    line->addText("folder", folder(media));
+    line->addText("type", typeWord(media));
+    line->addNumberOrNull("size", media.sourceSize(), media.sourceSize() >= 0);
+    line->addTimeOrNull("created", media.dateCreated());
+}
+
+void MediaFacts::addState(JsonLine *line, const INxAbstractMediaItem &media)
+{
+    line->addBool("missing", isMissing(media));
+    line->addTextOrNull("unreadable", unreadableReason(media));
+}
+
+void MediaFacts::addContents(JsonLine *line, const INxAbstractMediaItem &media)
+{
+    const Facts facts = factsOf(media.mediaInfo());
+    const bool isMoving = !facts.video.frameSize.isEmpty();
+    const QSize size = isMoving ? facts.video.frameSize : facts.image.size;
+    const QString codec = isMoving ? facts.video.codecName : facts.audio.format;
+    line->addNumberOrNull("duration_ms", facts.milliseconds, facts.milliseconds > 0);
+    line->addNumberOrNull("frames", facts.frames, facts.frames > 0);
+    line->addTextOrNull("fps", rateText(facts.rate));
+    line->addNumberOrNull("width", size.width(), !size.isEmpty());
+    line->addNumberOrNull("height", size.height(), !size.isEmpty());
+    line->addNumberOrNull("rotation", facts.video.rotation, isMoving);
+    line->addTextOrNull("codec", codec);
+    line->addNumberOrNull("sample_rate", facts.audio.sampleRate, facts.audio.sampleRate > 0);
+    line->addNumberOrNull("channels", facts.audio.channels, facts.audio.channels > 0);
+    line->addTextOrNull("camera", media.cameraName());
+    line->addNull("timecode");
+    if (isMoving)
+        line->addBool("variable_rate", facts.video.variableFrameRate);
+    else
+        line->addNull("variable_rate");
+}

@@ -1,0 +1,31 @@
+// SPDX-FileCopyrightText: 2026 Brevano contributors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#pragma once
+
+#include <QString>
+
+class INxAbstractMediaItem;
+class JsonLine;
+
+/// What a listing tells about a media.
+namespace MediaFacts {
+
+/// "video", "audio", "image", "gif", "subtitle" or "other".
+[[nodiscard]] QString typeWord(const INxAbstractMediaItem &media);
+/// Path of the folder that holds it, from the section down; empty for the section itself.
+[[nodiscard]] QString folder(const INxAbstractMediaItem &media);
+/// "project" or "shared".
+[[nodiscard]] QString section(const INxAbstractMediaItem &media);
+/// Whether the file was not there when it was last looked for.
+[[nodiscard]] bool isMissing(const INxAbstractMediaItem &media);
+/// Why the file, which is there, cannot be read; empty when it can, or was not looked at.
+[[nodiscard]] QString unreadableReason(const INxAbstractMediaItem &media);
+
+/// name, path, section, folder, type, size, created.
+void addIdentity(JsonLine *line, const INxAbstractMediaItem &media);
+/// missing, unreadable.
+void addState(JsonLine *line, const INxAbstractMediaItem &media);
+/// What the file itself tells, null while it was not read: duration_ms to variable_rate.
+void addContents(JsonLine *line, const INxAbstractMediaItem &media);
+
+} // namespace MediaFacts

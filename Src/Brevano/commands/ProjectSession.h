@@ -1,0 +1,70 @@
+// SPDX-FileCopyrightText: 2026 Brevano contributors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#pragma once
+
+#include <Brevano/commands/ProgramArgument.h>
+#include <NxVBLEngine/NxEmbeddedEngine.h>
+#include <NxVBLModel/NxMediaEngineDoor.h>
+
+#include <QList>
+
+class Console;
+class INxFolderMedia;
+class INxFolderMediaManager;
+class INxMediaImporter;
+class INxMediaItemManager;
+class INxMediaManager;
+class INxUndoStack;
+
+/// One project, open for one command. Says on the console why something does not work.
+class ProjectSession
+{
+public:
+    enum class Access {
+        Look, ///< Works beside another process that holds the project.
+        Change,
+    };
+
+    explicit ProjectSession(Console *console);
+    ~ProjectSession();
+    Q_DISABLE_COPY_MOVE(ProjectSession)
+
+    /// False, after saying why, when the project cannot be opened, or not be changed.
+    [[nodiscard]] bool open(const ProgramArgument &project, Access access);
+    /// The same to change it; a project that is not there is made, which is said.
+    [[nodiscard]] bool openOrCreate(const ProgramArgument &project);
+
+    /// Says why the project cannot be used, once for each reason.
+    void tellFailure(const QString &reason);
+    /// Waits until all that was done so far is on disk. False, after saying why, when it is not.
+    [[nodiscard]] bool commit();
+    /// Closes the project. Answers `code`, or ProjectUnusable when not all could be written.
+    [[nodiscard]] int close(int code);
+
+    /// The path as the user wrote it.
+    [[nodiscard]] const QString &path() const { return m_path; }
+    [[nodiscard]] NxEmbeddedEngine &engine() { return m_engine; }
+    [[nodiscard]] INxProject *project() const { return m_project; }
+    [[nodiscard]] INxUndoStack *undoStack() const;
+    [[nodiscard]] INxFolderMediaManager *folders() const;
+    [[nodiscard]] INxMediaItemManager *items() const;
+    [[nodiscard]] INxMediaImporter *importer() const;
+    /// The sections in their order.
+    [[nodiscard]] QList<INxFolderMedia *> sections() const;
+    /// Whether the file is damaged; what is wrong with it was said when it was opened.
+    [[nodiscard]] bool isDamaged() const { return m_isDamaged; }
+
+private:
+    [[nodiscard]] bool isUsablePath(const ProgramArgument &project);
+    [[nodiscard]] bool take(const NxResult<INxProject *> &opened);
+    [[nodiscard]] bool canChange();
+    [[nodiscard]] INxMediaManager *manager() const;
+
+    Console *const m_console; // Not owned.
+    NxEmbeddedEngine m_engine;
+    const NxMediaEngineDoor m_door;
+    INxProject *m_project = nullptr; // The engine's.
+    QString m_path;
+    QString m_told; // The last reason that was said.
+    bool m_isDamaged = false;
+};

@@ -1,0 +1,17 @@
+// SPDX-FileCopyrightText: 2026 Brevano contributors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#pragma once
+
+#include <Brevano/commands/FolderOrMediaCommand.h>
+
+/// Takes media, or a folder with all that it holds, out of the project.
+class RemoveCommand final : public FolderOrMediaCommand
+{
+protected:
+    QString fault(const CommandLine &line) const override;
+    ProgramArguments mediaNames(const CommandLine &line) const override;
+    Outcome changeFolder(ProjectSession *session, const CommandLine &line, INxFolderMedia *section,
+                         INxFolderMedia *folder) override;
+    Outcome changeMedia(ProjectSession *session, const CommandLine &line, INxFolderMedia *section,
+                        const QVector<INxAbstractMedia *> &media) override;
+};

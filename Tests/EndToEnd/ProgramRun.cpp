@@ -1,0 +1,103 @@
+// SPDX-FileCopyrightText: 2026 Brevano contributors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include "ProgramRun.h"
+
+#include <QProcessEnvironment>
+#include <QtTest>
+
+#include <pwd.h>
+#include <unistd.h>
+
+namespace {
+
+constexpr int longestRun = 100000; // ms
+
+} // namespace
+
+ProgramRun::~ProgramRun()
+{
+    if (state() == NotRunning)
+        return;
+    kill();
+    waitForFinished(longestRun);
+}
+
+void ProgramRun::begin(const QStringList &arguments, const QString &folder)
+{
+    launch(QStringLiteral(NX_BREVANO), arguments, folder);
+}
+
+void ProgramRun::beginShell(const QString &command, const QStringList &arguments,
+                            const QString &folder)
+{
+    const QStringList words{QStringLiteral("-c"), command, QStringLiteral("sh")};
+    launch(QStringLiteral("/bin/sh"), words + arguments, folder);
+}
+
+void ProgramRun::launch(const QString &program, const QStringList &arguments, const QString &folder)
+{
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert(QStringLiteral("BREVANO"), QStringLiteral(NX_BREVANO));
+    environment.remove(QStringLiteral("DISPLAY"));
+    environment.remove(QStringLiteral("QT_QPA_PLATFORM"));
+    setProcessEnvironment(environment);
+    setWorkingDirectory(folder);
+    setStandardInputFile(nullDevice());
+    start(program, arguments);
+    QVERIFY2(waitForStarted(longestRun), qPrintable(errorString()));
+}
+
+void ProgramRun::setupChildProcess()
+{
+    if (m_user == User::Same || geteuid() != 0)
+        return;
+    const passwd *nobody = getpwnam("nobody");
+    if (!nobody || setgid(nobody->pw_gid) != 0 || setuid(nobody->pw_uid) != 0)
+        _exit(125);
+}
+
+bool ProgramRun::killAfter(int msec)
+{
+    if (waitForFinished(msec))
+        return false;
+    kill();
+    waitForFinished(longestRun);
+    return exitStatus() == CrashExit;
+}
+
+ProgramResult ProgramRun::end()
+{
+    if (state() != NotRunning && !waitForFinished(longestRun)) {
+        kill();
+        waitForFinished(longestRun);
+    }
+    ProgramResult result;
+    result.code = exitStatus() == NormalExit ? exitCode() : -1;
+    result.output = readAllStandardOutput();
+    result.errors = readAllStandardError();
+    return result;
+}
+
+bool ProgramRun::waitForLine()
+{
+    while (!canReadLine()) {
+        if (!waitForReadyRead(longestRun))
+            return false;
+    }
+    return true;
+}
+
+ProgramResult ProgramRun::run(const QStringList &arguments, const QString &folder, User user)
+{
+    ProgramRun program(user);
+    program.begin(arguments, folder);
+    return program.end();
+}
+
+ProgramResult ProgramRun::runShell(const QString &command, const QStringList &arguments,
+                                   const QString &folder)
+{
+    ProgramRun program;
+    program.beginShell(command, arguments, folder);
+    return program.end();
+}

@@ -1,0 +1,63 @@
+// SPDX-FileCopyrightText: 2026 Brevano contributors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include "Yard.h"
+
+#include <QtTest>
+
+Yard::Yard() : m_footage(m_folder.makeDir(QStringLiteral("footage"))) {}
+
+QString Yard::clip(const QString &name, const QByteArray &content) const
+{
+    return m_folder.write(QStringLiteral("footage/") + name, content);
+}
+
+void Yard::manyClips(int folders, int files) const
+{
+    constexpr int digits = 3;
+    const QLatin1Char zero('0');
+    for (int folder = 0; folder < folders; ++folder) {
+        for (int file = 0; file < files; ++file)
+            clip(QStringLiteral("part %1/clip %2.mp4")
+                     .arg(folder, digits, 10, zero)
+                     .arg(file, digits, 10, zero));
+    }
+}
+
+QString Yard::footage(const QString &name) const
+{
+    return m_footage + QLatin1Char('/') + name;
+}
+
+ProgramResult Yard::run(const char *command, const QStringList &rest) const
+{
+    const QStringList words{QLatin1String(command), project()};
+    return ProgramRun::run(words + rest, m_folder.path());
+}
+
+QVector<QJsonObject> Yard::listed(const QStringList &rest) const
+{
+    const ProgramResult result = run("list", QStringList{QStringLiteral("--json")} + rest);
+    if (result.code != 0)
+        QTest::qFail(result.story().constData(), __FILE__, __LINE__);
+    return result.objects();
+}
+
+QStringList Yard::shown(const QStringList &rest) const
+{
+    QStringList result;
+    const QVector<QJsonObject> all = listed(rest);
+    for (const QJsonObject &media : all) {
+        result.append(media.value(QLatin1String("folder")).toString() + QLatin1String(": ")
+                      + media.value(QLatin1String("name")).toString());
+    }
+    return result;
+}
+
+QStringList Yard::paths() const
+{
+    QStringList result;
+    const QVector<QJsonObject> all = listed();
+    for (const QJsonObject &media : all)
+        result.append(media.value(QLatin1String("path")).toString());
+    return result;
+}

@@ -1,0 +1,39 @@
+// SPDX-FileCopyrightText: 2026 Brevano contributors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#pragma once
+
+#include "ProgramRun.h"
+
+#include <Support/NxTempDir.h>
+
+/// A place for one test: a folder of footage, and one of projects beside it.
+class Yard
+{
+public:
+    Yard();
+
+    /// Writes a small file into the footage, with folders above it; answers its path.
+    QString clip(const QString &name, const QByteArray &content = "clip") const;
+    /// Many files: "part 00/clip 000.mp4" and so on.
+    void manyClips(int folders, int files) const;
+
+    [[nodiscard]] QString footage() const { return m_footage; }
+    [[nodiscard]] QString footage(const QString &name) const;
+    /// A path beside the footage.
+    [[nodiscard]] QString path(const QString &name) const { return m_folder.filePath(name); }
+    [[nodiscard]] QString project() const { return path(QStringLiteral("Film.brevano")); }
+    [[nodiscard]] const NxTempDir &folder() const { return m_folder; }
+
+    /// Runs "brevano <command> <this project> <rest>" from the yard's folder.
+    ProgramResult run(const char *command, const QStringList &rest = {}) const;
+    /// `list --json`, which must end with 0: the objects.
+    [[nodiscard]] QVector<QJsonObject> listed(const QStringList &rest = {}) const;
+    /// The same as texts: "Holiday/Day 1: clip.mp4" for each media, in their order.
+    [[nodiscard]] QStringList shown(const QStringList &rest = {}) const;
+    /// The paths of all media.
+    [[nodiscard]] QStringList paths() const;
+
+private:
+    const NxTempDir m_folder;
+    const QString m_footage;
+};
