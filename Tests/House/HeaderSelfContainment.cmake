@@ -1,0 +1,21 @@
+# The target header_self_containment: one source file per public header that includes it first and
+# alone. It is built with everything else, so that a header that leans on others breaks the build.
+get_property(modules GLOBAL PROPERTY NX_MODULES)
+set(folder ${CMAKE_CURRENT_BINARY_DIR}/headers)
+set(sources "")
+foreach(module IN LISTS modules)
+    get_target_property(headers ${module} NX_PUBLIC_HEADERS)
+    foreach(header IN LISTS headers)
+        set(source ${folder}/${module}/${header}.cpp)
+        file(CONFIGURE OUTPUT ${source} CONTENT "#include <@module@/@header@>\n" @ONLY)
+        list(APPEND sources ${source})
+    endforeach()
+endforeach()
+if(NOT sources)
+    message(FATAL_ERROR "No public header was found: nothing would be checked.")
+endif()
+
+add_library(header_self_containment OBJECT ${sources})
+set_target_properties(header_self_containment PROPERTIES AUTOMOC OFF)
+target_link_libraries(header_self_containment PRIVATE ${modules} NxBuildFlags)
+target_compile_options(header_self_containment PRIVATE -O0 -g0)

@@ -1,0 +1,49 @@
+# Installs the build into an empty prefix, moves the prefix (an installed package may lie anywhere),
+# builds Docs/embedding/ against it alone, and runs the program.
+#
+# Needs BUILD_DIR, SOURCE_DIR, WORK_DIR and BUILD_TYPE.
+cmake_minimum_required(VERSION 3.25)
+
+function(step what)
+    execute_process(COMMAND ${ARGN} RESULT_VARIABLE result
+        OUTPUT_VARIABLE output ERROR_VARIABLE output)
+    if(NOT result EQUAL 0)
+        message(FATAL_ERROR "${what} failed (${result}):\n${output}")
+    endif()
+    set(step_output "${output}" PARENT_SCOPE)
+endfunction()
+
+set(prefix ${WORK_DIR}/prefix)
+set(example ${WORK_DIR}/embedding)
+file(REMOVE_RECURSE ${WORK_DIR})
+file(MAKE_DIRECTORY ${WORK_DIR})
+if(NOT EXISTS ${SOURCE_DIR}/Docs/embedding/CMakeLists.txt)
+    message(FATAL_ERROR "There is no example program in Docs/embedding.")
+endif()
+
+step("Installing" ${CMAKE_COMMAND} --install ${BUILD_DIR} --prefix ${WORK_DIR}/installed)
+file(RENAME ${WORK_DIR}/installed ${prefix})
+file(COPY ${SOURCE_DIR}/Docs/embedding DESTINATION ${WORK_DIR} PATTERN build EXCLUDE)
+
+step("Configuring the example" ${CMAKE_COMMAND} -S ${example} -B ${example}/build -G Ninja
+    -DCMAKE_BUILD_TYPE=${BUILD_TYPE} -DCMAKE_PREFIX_PATH=${prefix}
+    -DCMAKE_EXPORT_COMPILE_COMMANDS=ON)
+step("Building the example" ${CMAKE_COMMAND} --build ${example}/build)
+
+# Not a header of the source tree may have helped, nor a library of the build tree.
+file(READ ${example}/build/compile_commands.json commands)
+file(READ ${example}/build/build.ninja links)
+foreach(forbidden "${SOURCE_DIR}/Src" "${BUILD_DIR}/generated" "${BUILD_DIR}/lib/")
+    string(FIND "${commands}${links}" "${forbidden}" position)
+    if(NOT position EQUAL -1)
+        message(FATAL_ERROR "The example was built with ${forbidden}, not with the package alone.")
+    endif()
+endforeach()
+string(FIND "${commands}" "${prefix}/" position)
+if(position EQUAL -1)
+    message(FATAL_ERROR "The example was not built with the installed headers.")
+endif()
+
+step("Running the example" ${CMAKE_COMMAND} -E env --unset=LD_LIBRARY_PATH
+    ${example}/build/embedding)
+message("${step_output}")
