@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "ProgramRun.h"
 
+#include "ReadableProgram.h"
+
 #include <QProcessEnvironment>
 #include <QtTest>
 
@@ -11,6 +13,12 @@
 namespace {
 
 constexpr int longestRun = 100000; // ms
+
+const ReadableProgram &programForAll()
+{
+    static const ReadableProgram program;
+    return program;
+}
 
 } // namespace
 
@@ -24,7 +32,7 @@ ProgramRun::~ProgramRun()
 
 void ProgramRun::begin(const QStringList &arguments, const QString &folder)
 {
-    launch(QStringLiteral(NX_BREVANO), arguments, folder);
+    launch(isForNobody() ? programForAll().path() : QStringLiteral(NX_BREVANO), arguments, folder);
 }
 
 void ProgramRun::beginShell(const QString &command, const QStringList &arguments,
@@ -40,6 +48,8 @@ void ProgramRun::launch(const QString &program, const QStringList &arguments, co
     environment.insert(QStringLiteral("BREVANO"), QStringLiteral(NX_BREVANO));
     environment.remove(QStringLiteral("DISPLAY"));
     environment.remove(QStringLiteral("QT_QPA_PLATFORM"));
+    if (isForNobody())
+        programForAll().addLibrariesTo(&environment);
     setProcessEnvironment(environment);
     setWorkingDirectory(folder);
     setStandardInputFile(nullDevice());
@@ -47,9 +57,14 @@ void ProgramRun::launch(const QString &program, const QStringList &arguments, co
     QVERIFY2(waitForStarted(longestRun), qPrintable(errorString()));
 }
 
+bool ProgramRun::isForNobody() const
+{
+    return m_user == User::Nobody && geteuid() == 0;
+}
+
 void ProgramRun::setupChildProcess()
 {
-    if (m_user == User::Same || geteuid() != 0)
+    if (!isForNobody())
         return;
     const passwd *nobody = getpwnam("nobody");
     if (!nobody || setgid(nobody->pw_gid) != 0 || setuid(nobody->pw_uid) != 0)

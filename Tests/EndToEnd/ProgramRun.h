@@ -44,6 +44,7 @@ protected:
     void setupChildProcess() override;
 
 private:
+    [[nodiscard]] bool isForNobody() const;
     void launch(const QString &program, const QStringList &arguments, const QString &folder);
 
     const User m_user;

@@ -10,6 +10,7 @@
 #include <QThread>
 
 #include <algorithm>
+#include <cstddef>
 #include <iterator>
 #include <utility>
 
@@ -85,9 +86,9 @@ void NxPresenceKeeper::start()
     m_started = true;
     m_fresh.clear(); // They are among the living.
     for (const NxEngineMedia *media : m_memory->livingMedia())
-        m_folders.add(media);
-    m_folders.wantAll();
+        m_fresh.push_back(media->id());
     m_roundTimer.start();
+    m_pumpTimer.start();
     askVolumes();
 }
 
@@ -96,7 +97,6 @@ void NxPresenceKeeper::refreshNow(std::function<void()> done)
     if (done)
         m_done.push_back(std::move(done));
     start();
-    m_folders.wantMedia(std::exchange(m_fresh, {}));
     m_folders.wantAll();
     m_pumpTimer.start();
 }
@@ -127,9 +127,8 @@ void NxPresenceKeeper::onApplied(const NxChange &change)
 void NxPresenceKeeper::beginRound()
 {
     askVolumes();
-    m_folders.wantMedia(std::exchange(m_fresh, {}));
     m_folders.wantUncertain(m_clock.elapsed());
-    checkNext();
+    m_pumpTimer.start();
     poll();
 }
 
@@ -269,11 +268,24 @@ void NxPresenceKeeper::pump()
     applyAnswers();
     if (!self)
         return;
+    fileFresh();
     checkNext();
-    if (!m_answers.empty())
+    if (!m_answers.empty() || !m_fresh.empty())
         m_pumpTimer.start();
     if (isSettled())
         callDone();
+}
+
+void NxPresenceKeeper::fileFresh()
+{
+    constexpr size_t atOnce = 200;
+    QElapsedTimer clock;
+    clock.start();
+    while (!m_fresh.empty() && !clock.hasExpired(LongestSlice)) {
+        const auto end = m_fresh.begin() + std::ptrdiff_t(std::min(atOnce, m_fresh.size()));
+        m_folders.wantMedia({m_fresh.begin(), end});
+        m_fresh.erase(m_fresh.begin(), end);
+    }
 }
 
 void NxPresenceKeeper::applyAnswers()
@@ -310,7 +322,7 @@ void NxPresenceKeeper::apply(const NxFileAnswer &answer)
 
 bool NxPresenceKeeper::isSettled() const
 {
-    return m_folders.hasVolumeRoots() && !m_checking && m_answers.empty()
+    return m_folders.hasVolumeRoots() && !m_checking && m_answers.empty() && m_fresh.empty()
         && !m_folders.isAnythingWanted();
 }
 

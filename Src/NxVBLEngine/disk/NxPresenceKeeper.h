@@ -66,6 +66,7 @@ private:
     void pump();
     void takeNews(const News &news);
     void takeAnswers(std::vector<NxFileAnswer> answers);
+    void fileFresh();
     void applyAnswers();
     void apply(const NxFileAnswer &answer);
     [[nodiscard]] bool isSettled() const;
@@ -84,7 +85,7 @@ private:
     bool m_checking = false;
     bool m_askingVolumes = false;
     QSet<QString> m_polling; // Volumes.
-    std::vector<qint64> m_fresh; // Media that came since the last round.
+    std::deque<qint64> m_fresh; // Media that were not filed under their folders yet.
     std::deque<NxFileAnswer> m_answers;
     std::vector<std::function<void()>> m_done;
 };

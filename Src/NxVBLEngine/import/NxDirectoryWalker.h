@@ -35,6 +35,14 @@ struct NxWalkEntry
     QString given; ///< The path as the user wrote it, when it is one that the user named.
     QString reason; ///< Why it was refused, or cannot be read.
     NxFileFacts facts; ///< Of a file.
+
+    /// The canonical path, also where it is the path.
+    [[nodiscard]] const QString &realPath() const
+    {
+        return canonicalPath.isEmpty() ? path : canonicalPath;
+    }
+    /// How the path is reported: as the user wrote it, where he did.
+    [[nodiscard]] const QString &shownPath() const { return given.isEmpty() ? path : given; }
 };
 
 /// Who listens to a walk. Called on the thread that walks.

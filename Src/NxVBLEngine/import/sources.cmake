@@ -7,6 +7,7 @@ list(APPEND NXVBLENGINE_SOURCES
     import/NxImportChannel.h
     import/NxImportJob.cpp
     import/NxImportJob.h
+    import/NxImportJob_entries.cpp
     import/NxImportNow.cpp
     import/NxImportNow.h
     import/NxImportRules.cpp

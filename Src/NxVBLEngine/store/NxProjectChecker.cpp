@@ -95,22 +95,12 @@ private:
 
     void checkMedia()
     {
-        QHash<QString, qint64> paths;
         for (const NxMediaRecord &media : m_contents.media) {
             if (m_media.contains(media.id))
                 m_problems += said("media %1 is there twice", media.id);
             m_media.insert(media.id);
             if (!isFolder(media.category, media.folder))
                 m_problems += said("media %1 lies in a folder that is not there", media.id);
-            if (!media.alive)
-                continue;
-            if (paths.contains(media.path)) {
-                m_problems += translated("media %1 and %2 are the same file: %3")
-                                  .arg(paths.value(media.path))
-                                  .arg(media.id)
-                                  .arg(media.path);
-            }
-            paths.insert(media.path, media.id);
         }
     }
 

@@ -48,8 +48,8 @@ NxProjectLock::Answer NxProjectLock::tryLock()
 QString NxProjectLock::impossibleText() const
 {
     return m_file.error() == QLockFile::PermissionError
-        ? translated("stands in a folder that cannot be written")
-        : translated("cannot be written, since no lock can be made beside it");
+               ? translated("stands in a folder that cannot be written")
+               : translated("cannot be written, since no lock can be made beside it");
 }
 
 QString NxProjectLock::holderText() const

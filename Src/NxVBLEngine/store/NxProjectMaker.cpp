@@ -23,6 +23,12 @@ QString translated(const char *text)
     return QCoreApplication::translate("NxProjectStore", text);
 }
 
+NxError taken(const QString &path)
+{
+    return NxStoreCause::error(
+        path, translated("cannot be made: a file of this name is there already"));
+}
+
 NxResult<void> fill(const QString &part, const QString &path, qint64 nowMsec, const char *vfs)
 {
     NxResult<std::unique_ptr<NxSqliteDatabase>> database =
@@ -61,13 +67,11 @@ NxResult<void> removeLeftLog(const QString &path)
 
 } // namespace
 
-NxResult<void> NxProjectMaker::make(const QString &path, qint64 nowMsec, const char *vfs)
+NxResult<void> NxProjectMaker::mayMake(const QString &path)
 {
     const QFileInfo target(path);
-    const NxError taken = NxStoreCause::error(
-        path, translated("cannot be made: a file of this name is there already"));
     if (target.exists() || target.isSymLink())
-        return taken;
+        return taken(path);
     if (!QFileInfo(target.path()).isDir())
         return NxStoreCause::error(path, translated("cannot be made: there is no such folder"));
     if (!QFileInfo(target.path()).isWritable())
@@ -75,11 +79,18 @@ NxResult<void> NxProjectMaker::make(const QString &path, qint64 nowMsec, const c
                                    translated("cannot be made: its folder is write-protected"));
     if (NxSqliteDatabase::fileName(target.fileName()).size() > LongestName)
         return NxStoreCause::error(path, translated("cannot be made: its name is too long"));
+    return {};
+}
+
+NxResult<void> NxProjectMaker::make(const QString &path, qint64 nowMsec, const char *vfs)
+{
+    if (const NxResult<void> possible = mayMake(path); !possible)
+        return possible;
     if (const NxResult<void> removed = removeLeftLog(path); !removed)
         return removed;
 
     const QString unique = QUuid::createUuid().toString(QUuid::Id128).left(12);
-    const QString partPath = target.path() + QLatin1String("/.brevano-new-") + unique;
+    const QString partPath = QFileInfo(path).path() + QLatin1String("/.brevano-new-") + unique;
     auto tidy = qScopeGuard([&partPath] { QFile::remove(partPath); });
     if (const NxResult<void> filled = fill(partPath, path, nowMsec, vfs); !filled)
         return filled;
@@ -89,6 +100,6 @@ NxResult<void> NxProjectMaker::make(const QString &path, qint64 nowMsec, const c
         return {};
     }
     if (QFileInfo::exists(path))
-        return taken;
+        return taken(path);
     return NxStoreCause::error(path, NxStoreDeed::Write, part.errorString());
 }

@@ -4,6 +4,7 @@
 
 #include <NxCore/NxLog.h>
 #include <NxVBLEngine/store/NxProjectChecker.h>
+#include <NxVBLEngine/store/NxProjectHeader.h>
 #include <NxVBLEngine/store/NxProjectMaker.h>
 #include <NxVBLEngine/store/NxProjectStore_p.h>
 
@@ -202,6 +203,8 @@ NxResult<std::unique_ptr<NxProjectStore>> NxProjectStore::create(
     const QString absolute = absolutePath(path);
     if (const NxResult<void> possible = openable(absolute, options.vfs); !possible)
         return possible.error();
+    if (const NxResult<void> makeable = NxProjectMaker::mayMake(absolute); !makeable)
+        return makeable.error();
     auto d = std::make_unique<Private>(absolute, options);
     const NxProjectLock::Answer answer = d->lock.tryLock();
     if (answer == NxProjectLock::Answer::Taken)
@@ -225,8 +228,8 @@ NxResult<std::unique_ptr<NxProjectStore>> NxProjectStore::open(const QString &pa
     if (const NxResult<void> possible = openable(absolute, options.vfs); !possible)
         return possible.error();
     auto d = std::make_unique<Private>(absolute, options);
-    // What is not there, or not readable, has no right to be asked for.
-    if (QFileInfo(absolute).isReadable())
+    // Beside what is no project, not even a lock is made: it may be a file of the user's footage.
+    if (QFileInfo(absolute).isReadable() && NxProjectHeader::read(absolute))
         d->takeRight();
     if (const NxResult<void> opened = d->openSource(); !opened)
         return opened.error();

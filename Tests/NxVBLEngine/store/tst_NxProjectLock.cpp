@@ -145,8 +145,7 @@ void tst_NxProjectLock::whereNoLockFitsTheProjectIsOnlyRead()
     const auto store = NxProjectStore::open(longName, {});
     QVERIFY2(store, qUtf8Printable(store.errorText()));
     QCOMPARE((*store)->readOnlyReason(),
-             longName
-                 + QStringLiteral(": cannot be written, since no lock can be made beside it"));
+             longName + QStringLiteral(": cannot be written, since no lock can be made beside it"));
     const NxResult<NxProjectContents> contents = (*store)->load();
     QVERIFY2(contents, qUtf8Printable(contents.errorText()));
     QCOMPARE(int(contents->media.size()), 3);
