@@ -24,7 +24,9 @@ list(APPEND NXVBLENGINE_SOURCES
     objects/NxMediaIdIndex.h
     objects/NxProjectMemory.cpp
     objects/NxProjectMemory.h
+    objects/NxProjectMemory_changes.cpp
     objects/NxProjectMemory_invariants.cpp
+    objects/NxProjectMemory_load.cpp
     objects/NxResourceCatalogue.cpp
     objects/NxResourceCatalogue.h
     objects/NxSiblingPlaces.cpp
