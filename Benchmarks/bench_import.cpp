@@ -83,7 +83,7 @@ const QString &footage()
 // The bound
 
 void bareStep(sqlite3 *database, sqlite3_stmt *insert, const std::string &path,
-    const struct stat &facts)
+              const struct stat &facts)
 {
     sqlite3_bind_text(insert, 1, path.data(), int(path.size()), SQLITE_STATIC);
     sqlite3_bind_int64(insert, 2, facts.st_size);
@@ -117,13 +117,14 @@ double importBare(const QString &project)
     timer.start();
     sqlite3 *database = nullptr;
     sqlite3_open(QFile::encodeName(project).constData(), &database);
-    sqlite3_exec(database, "PRAGMA journal_mode = WAL; PRAGMA synchronous = NORMAL;"
-                           "CREATE TABLE media(id INTEGER PRIMARY KEY, path TEXT UNIQUE,"
-                           " size INTEGER, modified INTEGER); BEGIN",
-        nullptr, nullptr, nullptr);
+    sqlite3_exec(database,
+                 "PRAGMA journal_mode = WAL; PRAGMA synchronous = NORMAL;"
+                 "CREATE TABLE media(id INTEGER PRIMARY KEY, path TEXT UNIQUE,"
+                 " size INTEGER, modified INTEGER); BEGIN",
+                 nullptr, nullptr, nullptr);
     sqlite3_stmt *insert = nullptr;
     sqlite3_prepare_v2(database, "INSERT INTO media(path, size, modified) VALUES(?,?,?)", -1,
-        &insert, nullptr);
+                       &insert, nullptr);
     bareWalk(database, insert, footage().toStdString());
     sqlite3_finalize(insert);
     sqlite3_exec(database, "COMMIT", nullptr, nullptr, nullptr);
@@ -175,10 +176,10 @@ private:
 struct Project
 {
     explicit Project(const QString &path)
-        : disk(std::make_shared<NxDiskThread>())
-        , memory(path)
-        , category(memory.category(NXVBLMODEL::mctMedia))
-        , section(category->folder(NXVBLMODEL::fidRoot))
+        : disk(std::make_shared<NxDiskThread>()),
+          memory(path),
+          category(memory.category(NXVBLMODEL::mctMedia)),
+          section(category->folder(NXVBLMODEL::fidRoot))
     {
         auto created = NxProjectStore::create(path, {});
         if (!created)
@@ -213,10 +214,10 @@ double importOurs(const QString &path, double *longestHold)
     QEventLoop loop;
     NxImportReport report;
     QObject::connect(project.importer.get(), &INxMediaImporter::finished, &loop,
-        [&](quint64, const NxImportReport &finished) {
-            report = finished;
-            loop.quit();
-        });
+                     [&](quint64, const NxImportReport &finished) {
+                         report = finished;
+                         loop.quit();
+                     });
     const Heartbeat heart;
     QElapsedTimer timer;
     timer.start();
@@ -303,9 +304,8 @@ void addNow(benchmark::State &state)
     state.counters["ratio"] = median(ours) / median(bound);
     state.counters["us_per_file"] = median(ours) * microseconds / double(paths.size());
 }
-BENCHMARK(addNow)
-    ->Arg(1'000)->Arg(10'000)->UseManualTime()->Iterations(Rounds)
-    ->Unit(benchmark::kMillisecond);
+BENCHMARK(addNow)->Arg(1'000)->Arg(10'000)->UseManualTime()->Iterations(Rounds)->Unit(
+    benchmark::kMillisecond);
 
 } // namespace
 

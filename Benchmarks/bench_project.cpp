@@ -4,10 +4,10 @@
 // Opening, holding and walking projects of many media.
 
 #include <NxVBLEngine/NxEmbeddedEngine.h>
+#include <NxVBLEngine/NxEngineProject.h>
 #include <NxVBLEngine/objects/NxEngineCategory.h>
 #include <NxVBLEngine/objects/NxEngineFolder.h>
 #include <NxVBLEngine/objects/NxEngineItemManager.h>
-#include <NxVBLEngine/NxEngineProject.h>
 #include <NxVBLEngine/objects/NxEngineUndoStack.h>
 #include <NxVBLEngine/objects/NxProjectMemory.h>
 #include <NxVBLModel/INxMediaInfo.h>
@@ -48,7 +48,8 @@ QVector<NxMediaSeed> seeds(int folder, int count)
     QVector<NxMediaSeed> made(count);
     for (int i = 0; i < count; ++i) {
         made[i].path = QStringLiteral("/Volumes/Footage/2026/Shoot %1/Card A/DSC_%2.MOV")
-                           .arg(folder).arg(i * 7919 % count, 5, 10, QLatin1Char('0'));
+                           .arg(folder)
+                           .arg(i * 7919 % count, 5, 10, QLatin1Char('0'));
         made[i].size = 1000000 + i;
         made[i].created = 1700000000000 + i * 1000;
     }
@@ -155,7 +156,9 @@ void walkNamesTypesAndInfos(benchmark::State &state)
     state.SetLabel(scattered ? "bound: the same, scattered" : "in folder order");
 }
 BENCHMARK(walkNamesTypesAndInfos)
-    ->Args({1000000, 0})->Args({1000000, 1})->Unit(benchmark::kMillisecond);
+    ->Args({1000000, 0})
+    ->Args({1000000, 1})
+    ->Unit(benchmark::kMillisecond);
 
 void listItems(benchmark::State &state)
 {

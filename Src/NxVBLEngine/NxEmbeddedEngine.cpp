@@ -4,8 +4,8 @@
 
 #include <NxCore/INxAppInfo.h>
 #include <NxCore/NxLog.h>
-#include <NxVBLEngine/disk/NxPresenceKeeper.h>
 #include <NxVBLEngine/NxEngineProject.h>
+#include <NxVBLEngine/disk/NxPresenceKeeper.h>
 #include <NxVBLEngine/objects/NxProjectMemory.h>
 #include <NxVBLEngine/store/NxProjectStore.h>
 
@@ -16,8 +16,7 @@
 class NxEmbeddedEnginePrivate
 {
 public:
-    explicit NxEmbeddedEnginePrivate(NxEmbeddedEngine::Options chosen)
-        : options(std::move(chosen))
+    explicit NxEmbeddedEnginePrivate(NxEmbeddedEngine::Options chosen) : options(std::move(chosen))
     {
     }
 
@@ -28,9 +27,9 @@ public:
         if (!options.backups)
             return store;
         store.backupFolder = options.backupFolder.isEmpty()
-            ? INxAppInfo::getInstance()->getDirectory(INxAppInfo::pkUserData)
-                + QStringLiteral("/Backups")
-            : options.backupFolder;
+                                 ? INxAppInfo::getInstance()->getDirectory(INxAppInfo::pkUserData)
+                                       + QStringLiteral("/Backups")
+                                 : options.backupFolder;
         return store;
     }
 
@@ -65,10 +64,7 @@ QString absolute(const QString &path)
 
 } // namespace
 
-NxEmbeddedEngine::NxEmbeddedEngine()
-    : NxEmbeddedEngine(Options())
-{
-}
+NxEmbeddedEngine::NxEmbeddedEngine() : NxEmbeddedEngine(Options()) {}
 
 NxEmbeddedEngine::NxEmbeddedEngine(const Options &options)
     : d(std::make_unique<NxEmbeddedEnginePrivate>(options))

@@ -19,17 +19,16 @@
 
 using namespace NXVBLMODEL;
 
-NxEngineProject::NxEngineProject()
-    : NxEngineProject(nullptr)
+NxEngineProject::NxEngineProject() : NxEngineProject(nullptr)
 {
     attachServices();
 }
 
 NxEngineProject::NxEngineProject(std::unique_ptr<NxProjectStore> store)
-    : m_store(std::move(store))
-    , m_memory(std::make_unique<NxProjectMemory>(m_store ? m_store->path() : QString()))
-    , m_disk(std::make_shared<NxDiskThread>())
-    , m_presence(std::make_unique<NxPresenceKeeper>(m_memory.get(), m_disk))
+    : m_store(std::move(store)),
+      m_memory(std::make_unique<NxProjectMemory>(m_store ? m_store->path() : QString())),
+      m_disk(std::make_shared<NxDiskThread>()),
+      m_presence(std::make_unique<NxPresenceKeeper>(m_memory.get(), m_disk))
 {
 }
 
@@ -78,12 +77,13 @@ void NxEngineProject::attachServices()
     for (int category = 0; category < MediaCategoryCount; ++category) {
         NxEngineCategory *owner = m_memory->category(category);
         const auto &sections = owner->root()->children();
-        const bool takesFiles = std::any_of(sections.begin(), sections.end(),
-            [](const NxEngineFolder *section) { return section->canAddFolder(); });
+        const bool takesFiles =
+            std::any_of(sections.begin(), sections.end(),
+                        [](const NxEngineFolder *section) { return section->canAddFolder(); });
         if (!takesFiles)
             continue;
-        m_importers.push_back(std::make_unique<NxEngineImporter>(
-            m_memory.get(), owner, m_disk, m_store.get()));
+        m_importers.push_back(
+            std::make_unique<NxEngineImporter>(m_memory.get(), owner, m_disk, m_store.get()));
         owner->setImporter(m_importers.back().get());
     }
     m_presence->setRelativePaths(m_memory->takeRelativePaths());
@@ -167,8 +167,8 @@ void NxEngineProject::requestCommit(std::function<void(const NxResult<void> &)> 
         INxProject::requestCommit(std::move(done));
 }
 
-void NxEngineProject::saveCopy(
-    const QString &path, std::function<void(const NxResult<void> &)> done)
+void NxEngineProject::saveCopy(const QString &path,
+                               std::function<void(const NxResult<void> &)> done)
 {
     m_memory->flush();
     if (m_store)

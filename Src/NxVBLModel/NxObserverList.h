@@ -38,7 +38,7 @@ public:
     [[nodiscard]] bool isEmpty() const
     {
         return std::all_of(m_observers.begin(), m_observers.end(),
-            [](const Observer *observer) { return !observer; });
+                           [](const Observer *observer) { return !observer; });
     }
 
     /// Calls `what` with each observer. Events may be told while one is being told.
@@ -52,8 +52,8 @@ public:
                 what(observer);
         }
         if (--m_depth == 0) {
-            m_observers.erase(
-                std::remove(m_observers.begin(), m_observers.end(), nullptr), m_observers.end());
+            m_observers.erase(std::remove(m_observers.begin(), m_observers.end(), nullptr),
+                              m_observers.end());
         }
     }
 

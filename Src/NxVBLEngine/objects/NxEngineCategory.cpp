@@ -12,11 +12,11 @@
 using namespace NXVBLMODEL;
 
 NxEngineCategory::NxEngineCategory(NxProjectMemory *memory, NxMediaCategoryType category)
-    : m_memory(memory)
-    , m_category(category)
-    , m_root(std::make_unique<NxEngineFolder>(this))
-    , m_folderManager(std::make_unique<NxEngineFolderManager>(this))
-    , m_itemManager(std::make_unique<NxEngineItemManager>(this))
+    : m_memory(memory),
+      m_category(category),
+      m_root(std::make_unique<NxEngineFolder>(this)),
+      m_folderManager(std::make_unique<NxEngineFolderManager>(this)),
+      m_itemManager(std::make_unique<NxEngineItemManager>(this))
 {
     makeSections();
     makeResources();

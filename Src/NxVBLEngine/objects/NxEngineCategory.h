@@ -3,11 +3,11 @@
 #pragma once
 
 #include <NxVBLEngine/NxVBLEngineExport.h>
-#include <NxVBLModel/NxObserverList.h>
 #include <NxVBLEngine/records/NxFolderRecord.h>
-#include <NxVBLModel/INxMediaItemEventObserver.h>
 #include <NxVBLModel/INxMediaFolderEventObserver.h>
+#include <NxVBLModel/INxMediaItemEventObserver.h>
 #include <NxVBLModel/INxMediaManager.h>
+#include <NxVBLModel/NxObserverList.h>
 
 #include <QString>
 

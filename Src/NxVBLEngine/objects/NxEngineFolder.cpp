@@ -11,35 +11,35 @@
 using namespace NXVBLMODEL;
 
 NxEngineFolder::NxEngineFolder(NxEngineCategory *category)
-    : m_category(category)
-    , m_id(fidHiddenRoot)
-    , m_kind(fkNone)
-    , m_online(false)
-    , m_takesMedia(false)
-    , m_takesFolders(false)
+    : m_category(category),
+      m_id(fidHiddenRoot),
+      m_kind(fkNone),
+      m_online(false),
+      m_takesMedia(false),
+      m_takesFolders(false)
 {
 }
 
 NxEngineFolder::NxEngineFolder(NxEngineCategory *category, const NxSectionEntry &section)
-    : m_category(category)
-    , m_id(section.id)
-    , m_kind(section.kind)
-    , m_online(section.online)
-    , m_takesMedia(section.takesMedia)
-    , m_takesFolders(section.takesFolders)
-    , m_name(section.name)
+    : m_category(category),
+      m_id(section.id),
+      m_kind(section.kind),
+      m_online(section.online),
+      m_takesMedia(section.takesMedia),
+      m_takesFolders(section.takesFolders),
+      m_name(section.name)
 {
 }
 
 NxEngineFolder::NxEngineFolder(NxEngineCategory *category, const NxFolderRecord &record, int kind)
-    : m_category(category)
-    , m_id(record.id)
-    , m_kind(kind)
-    , m_online(false)
-    , m_takesMedia(true)
-    , m_takesFolders(true)
-    , m_place(record.place)
-    , m_name(record.name)
+    : m_category(category),
+      m_id(record.id),
+      m_kind(kind),
+      m_online(false),
+      m_takesMedia(true),
+      m_takesFolders(true),
+      m_place(record.place),
+      m_name(record.name)
 {
 }
 
@@ -47,8 +47,12 @@ NxEngineFolder::~NxEngineFolder() = default;
 
 NxFolderRecord NxEngineFolder::record() const
 {
-    return {m_id, m_category->categoryType(), m_parent ? m_parent->folderId() : int(fidHiddenRoot),
-        m_place, m_name, m_parent != nullptr};
+    return {m_id,
+            m_category->categoryType(),
+            m_parent ? m_parent->folderId() : int(fidHiddenRoot),
+            m_place,
+            m_name,
+            m_parent != nullptr};
 }
 
 bool NxEngineFolder::listsGuests() const
@@ -58,7 +62,8 @@ bool NxEngineFolder::listsGuests() const
 
 int NxEngineFolder::rowForPlace(qint64 place) const
 {
-    const auto row = std::lower_bound(m_children.begin(), m_children.end(), place,
+    const auto row = std::lower_bound(
+        m_children.begin(), m_children.end(), place,
         [](const NxEngineFolder *child, qint64 wanted) { return child->m_place < wanted; });
     return int(row - m_children.begin());
 }
@@ -88,7 +93,8 @@ void NxEngineFolder::renumberChildren(int fromRow)
 
 NxEngineFolder *NxEngineFolder::childNamed(const QString &name) const
 {
-    const auto child = std::find_if(m_children.begin(), m_children.end(),
+    const auto child = std::find_if(
+        m_children.begin(), m_children.end(),
         [&name](const NxEngineFolder *candidate) { return candidate->m_name == name; });
     return child == m_children.end() ? nullptr : *child;
 }
@@ -100,14 +106,16 @@ void NxEngineFolder::insertItem(NxEngineItem *item)
         m_items.push_back(item);
         return;
     }
-    const auto spot = std::lower_bound(m_items.begin(), m_items.end(), item->place(),
+    const auto spot = std::lower_bound(
+        m_items.begin(), m_items.end(), item->place(),
         [](const NxEngineItem *listed, qint64 place) { return listed->place() < place; });
     m_items.insert(spot, item);
 }
 
 void NxEngineFolder::takeItem(NxEngineItem *item)
 {
-    const auto spot = std::lower_bound(m_items.begin(), m_items.end(), item->place(),
+    const auto spot = std::lower_bound(
+        m_items.begin(), m_items.end(), item->place(),
         [](const NxEngineItem *listed, qint64 place) { return listed->place() < place; });
     Q_ASSERT(spot != m_items.end() && *spot == item);
     m_items.erase(spot);
@@ -123,7 +131,7 @@ void NxEngineFolder::insertGuest(NxEngineItem *item)
 {
     const auto earlier = [](const NxEngineItem *a, const NxEngineItem *b) {
         return std::make_pair(a->favouriteTime(), a->resourceId())
-            < std::make_pair(b->favouriteTime(), b->resourceId());
+               < std::make_pair(b->favouriteTime(), b->resourceId());
     };
     m_items.insert(std::upper_bound(m_items.begin(), m_items.end(), item, earlier), item);
 }
@@ -146,8 +154,8 @@ QList<INxAbstractMedia *> NxEngineFolder::items(bool recursive, bool mediaOnly) 
     return list;
 }
 
-void NxEngineFolder::appendItems(
-    QList<INxAbstractMedia *> *list, bool recursive, bool mediaOnly) const
+void NxEngineFolder::appendItems(QList<INxAbstractMedia *> *list, bool recursive,
+                                 bool mediaOnly) const
 {
     for (NxEngineItem *item : m_items)
         list->append(item);

@@ -24,10 +24,7 @@ NxUndoRedoCommander step(NxProjectMemory *memory, const char *action)
 
 } // namespace
 
-NxEngineFolderManager::NxEngineFolderManager(NxEngineCategory *category)
-    : m_category(category)
-{
-}
+NxEngineFolderManager::NxEngineFolderManager(NxEngineCategory *category) : m_category(category) {}
 
 NxEngineFolderManager::~NxEngineFolderManager() = default;
 
@@ -50,8 +47,9 @@ NxEngineFolder *NxEngineFolderManager::changeable(INxFolderMedia *folder) const
     return mine;
 }
 
-NxResult<QString> NxEngineFolderManager::checkedName(
-    const QString &name, const NxEngineFolder *parent, const NxEngineFolder *renamed)
+NxResult<QString> NxEngineFolderManager::checkedName(const QString &name,
+                                                     const NxEngineFolder *parent,
+                                                     const NxEngineFolder *renamed)
 {
     const QString trimmed = name.trimmed();
     if (trimmed.isEmpty())
@@ -179,8 +177,8 @@ bool NxEngineFolderManager::moveFolder(INxFolderMedia *folder, INxFolderMedia *n
     return true;
 }
 
-qint64 NxEngineFolderManager::placeForRow(
-    NxEngineFolder *parent, const NxEngineFolder *moved, int row)
+qint64 NxEngineFolderManager::placeForRow(NxEngineFolder *parent, const NxEngineFolder *moved,
+                                          int row)
 {
     QVector<NxEngineFolder *> siblings;
     int spot = 0;

@@ -25,7 +25,8 @@ public:
     /// The name as it would be taken into `parent`, or why it would not. `renamed` is the folder
     /// that may keep its own name.
     [[nodiscard]] static NxResult<QString> checkedName(const QString &name,
-        const NxEngineFolder *parent, const NxEngineFolder *renamed = nullptr);
+                                                       const NxEngineFolder *parent,
+                                                       const NxEngineFolder *renamed = nullptr);
 
     INxFolderMedia *rootFolder() override;
     INxFolderMedia *folder(int folderId) override;

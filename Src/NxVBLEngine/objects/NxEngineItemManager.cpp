@@ -36,10 +36,7 @@ NxChange changeOf(NxChangeKind what, int category, qint64 id)
 
 } // namespace
 
-NxEngineItemManager::NxEngineItemManager(NxEngineCategory *category)
-    : m_category(category)
-{
-}
+NxEngineItemManager::NxEngineItemManager(NxEngineCategory *category) : m_category(category) {}
 
 NxEngineItemManager::~NxEngineItemManager() = default;
 
@@ -90,8 +87,8 @@ bool NxEngineItemManager::addMediaItems(const QList<INxAbstractMedia *> &items)
     return false;
 }
 
-bool NxEngineItemManager::addMediaItems(
-    INxFolderMedia *folder, const QList<INxAbstractMedia *> &items)
+bool NxEngineItemManager::addMediaItems(INxFolderMedia *folder,
+                                        const QList<INxAbstractMedia *> &items)
 {
     NxEngineFolder *into = ownFolder(folder);
     if (!into || !into->canAddMedia() || memory()->isReadOnly()) {
@@ -139,8 +136,8 @@ bool NxEngineItemManager::fileCopy(NxEngineFolder *folder, INxAbstractMedia *ite
     return true;
 }
 
-bool NxEngineItemManager::removeMediaItems(
-    INxFolderMedia *folder, const QList<INxAbstractMedia *> &items)
+bool NxEngineItemManager::removeMediaItems(INxFolderMedia *folder,
+                                           const QList<INxAbstractMedia *> &items)
 {
     if (memory()->isReadOnly())
         return false;
@@ -163,8 +160,8 @@ bool NxEngineItemManager::removeMediaItems(
     return true;
 }
 
-bool NxEngineItemManager::moveMediaItems(
-    INxFolderMedia *from, INxFolderMedia *to, const QList<INxAbstractMedia *> &items)
+bool NxEngineItemManager::moveMediaItems(INxFolderMedia *from, INxFolderMedia *to,
+                                         const QList<INxAbstractMedia *> &items)
 {
     NxEngineFolder *into = ownFolder(to);
     if (!into || !into->canAddMedia() || memory()->isReadOnly()) {
@@ -207,9 +204,9 @@ bool NxEngineItemManager::renameMediaItem(INxAbstractMedia *item, const QString 
     const NxUndoRedoCommander scope = step(memory(), "renameMediaItem");
     auto *media = dynamic_cast<NxEngineMedia *>(renamed);
     auto *resource = dynamic_cast<NxEngineResource *>(renamed);
-    NxChange change = media
-        ? changeOf(NxChangeKind::MediaRename, m_category->categoryType(), media->id())
-        : changeOf(NxChangeKind::ResourceRename, m_category->categoryType(), resource->id());
+    NxChange change =
+        media ? changeOf(NxChangeKind::MediaRename, m_category->categoryType(), media->id())
+              : changeOf(NxChangeKind::ResourceRename, m_category->categoryType(), resource->id());
     change.before.text = media ? media->name() : resource->userName();
     change.after.text = trimmed;
     memory()->perform(change);
@@ -226,9 +223,10 @@ bool NxEngineItemManager::setFavourite(INxAbstractMedia *item, bool favourite)
     const NxUndoRedoCommander scope = step(memory(), "setFavourite");
     auto *media = dynamic_cast<NxEngineMedia *>(marked);
     auto *resource = dynamic_cast<NxEngineResource *>(marked);
-    NxChange change = media
-        ? changeOf(NxChangeKind::MediaFavourite, m_category->categoryType(), media->id())
-        : changeOf(NxChangeKind::ResourceFavourite, m_category->categoryType(), resource->id());
+    NxChange change =
+        media
+            ? changeOf(NxChangeKind::MediaFavourite, m_category->categoryType(), media->id())
+            : changeOf(NxChangeKind::ResourceFavourite, m_category->categoryType(), resource->id());
     change.before.number = media ? media->favouriteSince() : resource->favouriteSince();
     change.after.number = favourite ? QDateTime::currentMSecsSinceEpoch() : NxNoTime;
     memory()->perform(change);

@@ -38,7 +38,7 @@ public:
     bool addMediaItems(INxFolderMedia *folder, const QList<INxAbstractMedia *> &items) override;
     bool removeMediaItems(INxFolderMedia *folder, const QList<INxAbstractMedia *> &items) override;
     bool moveMediaItems(INxFolderMedia *from, INxFolderMedia *to,
-        const QList<INxAbstractMedia *> &items) override;
+                        const QList<INxAbstractMedia *> &items) override;
     bool renameMediaItem(INxAbstractMedia *item, const QString &name) override;
     bool setFavourite(INxAbstractMedia *item, bool favourite) override;
     bool relinkMedia(INxAbstractMedia *item, const QString &path) override;

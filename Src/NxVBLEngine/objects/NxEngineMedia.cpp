@@ -35,19 +35,19 @@ constexpr std::array<const char *, 5> Reasons = {
 } // namespace
 
 NxEngineMedia::NxEngineMedia(const NxMediaRecord &record)
-    : m_id(record.id)
-    , m_name(record.name)
-    , m_path(record.path)
-    , m_canonicalPath(record.canonicalPath)
-    , m_size(record.size)
-    , m_created(record.created)
-    , m_modified(record.modified)
-    , m_favourite(record.favourite)
-    , m_folderId(record.folder)
-    , m_used(record.used)
-    , m_kindCode(quint8(record.kindCode))
-    , m_category(quint8(record.category))
-    , m_importKind(quint8(record.importKind))
+    : m_id(record.id),
+      m_name(record.name),
+      m_path(record.path),
+      m_canonicalPath(record.canonicalPath),
+      m_size(record.size),
+      m_created(record.created),
+      m_modified(record.modified),
+      m_favourite(record.favourite),
+      m_folderId(record.folder),
+      m_used(record.used),
+      m_kindCode(quint8(record.kindCode)),
+      m_category(quint8(record.category)),
+      m_importKind(quint8(record.importKind))
 {
     setPlace(record.place);
     readSuffix();

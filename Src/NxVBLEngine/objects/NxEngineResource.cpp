@@ -2,8 +2,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include <NxVBLEngine/objects/NxEngineResource.h>
 
-NxEngineResource::NxEngineResource(const NxResourceEntry &entry)
-    : m_entry(entry)
+NxEngineResource::NxEngineResource(const NxResourceEntry &entry) : m_entry(entry)
 {
     setPlace(entry.listOrder);
 }

@@ -61,10 +61,7 @@ QVector<qint64> sorted(QVector<qint64> ids)
 
 } // namespace
 
-NxEngineUndoStack::NxEngineUndoStack(NxProjectMemory *memory)
-    : m_memory(memory)
-{
-}
+NxEngineUndoStack::NxEngineUndoStack(NxProjectMemory *memory) : m_memory(memory) {}
 
 NxEngineUndoStack::~NxEngineUndoStack() = default;
 
@@ -128,7 +125,7 @@ void NxEngineUndoStack::continueStep(qint64 serial)
 bool NxEngineUndoStack::isDone(qint64 serial) const
 {
     return std::any_of(m_steps.begin(), m_steps.begin() + m_done,
-        [serial](const NxUndoRecord &step) { return step.serial == serial; });
+                       [serial](const NxUndoRecord &step) { return step.serial == serial; });
 }
 
 void NxEngineUndoStack::dropUndone()
@@ -146,8 +143,8 @@ void NxEngineUndoStack::dropOldest()
     drop(m_steps.begin(), m_steps.begin() + tooMany);
 }
 
-void NxEngineUndoStack::drop(
-    std::deque<NxUndoRecord>::iterator first, std::deque<NxUndoRecord>::iterator last)
+void NxEngineUndoStack::drop(std::deque<NxUndoRecord>::iterator first,
+                             std::deque<NxUndoRecord>::iterator last)
 {
     NxStoreEntry::StepDrop dropped;
     Mentioned mentioned;

@@ -19,8 +19,8 @@ void NxMediaIdIndex::remove(qint64 id)
     if (++m_removed * 2 <= m_entries.size())
         return;
     m_entries.erase(std::remove_if(m_entries.begin(), m_entries.end(),
-                        [](const Entry &candidate) { return !candidate.media; }),
-        m_entries.end());
+                                   [](const Entry &candidate) { return !candidate.media; }),
+                    m_entries.end());
     m_removed = 0;
 }
 
@@ -47,14 +47,15 @@ void NxMediaIdIndex::sort()
     if (m_sorted)
         return;
     std::sort(m_entries.begin(), m_entries.end(),
-        [](const Entry &a, const Entry &b) { return a.id < b.id; });
+              [](const Entry &a, const Entry &b) { return a.id < b.id; });
     m_sorted = true;
 }
 
 std::vector<NxMediaIdIndex::Entry>::iterator NxMediaIdIndex::place(qint64 id)
 {
     sort();
-    const auto entry = std::lower_bound(m_entries.begin(), m_entries.end(), id,
+    const auto entry = std::lower_bound(
+        m_entries.begin(), m_entries.end(), id,
         [](const Entry &candidate, qint64 wanted) { return candidate.id < wanted; });
     return entry != m_entries.end() && entry->id == id ? entry : m_entries.end();
 }

@@ -62,8 +62,8 @@ const std::vector<Section> ReservedSections = {
 const std::vector<Section> *sectionTable(int category)
 {
     static const std::array<const std::vector<Section> *, MediaCategoryCount> tables = {
-        &MediaSections, &ResourceSections, &ResourceSections, &ResourceSections,
-        &ResourceSections, &ResourceSections, &ResourceSections, &FixedResourceSections,
+        &MediaSections,    &ResourceSections,      &ResourceSections, &ResourceSections,
+        &ResourceSections, &ResourceSections,      &ResourceSections, &FixedResourceSections,
         &ProviderSections, &FixedResourceSections, &ReservedSections,
     };
     return category >= 0 && category < MediaCategoryCount ? tables[size_t(category)] : nullptr;
@@ -196,7 +196,7 @@ QVector<NxSectionEntry> NxResourceCatalogue::sections(int category)
     if (const std::vector<Section> *table = sectionTable(category)) {
         for (const Section &section : *table) {
             entries.append({section.id, section.kind, text(section.name), section.online,
-                section.takesMedia, section.takesFolders});
+                            section.takesMedia, section.takesFolders});
         }
     }
     return entries;

@@ -6,8 +6,7 @@
 
 #include <utility>
 
-EngineEvents::EngineEvents(NxEngineCategory *category)
-    : m_category(category)
+EngineEvents::EngineEvents(NxEngineCategory *category) : m_category(category)
 {
     m_category->itemObservers.add(this);
     m_category->folderObservers.add(this);
@@ -30,8 +29,8 @@ void EngineEvents::note(const QString &line)
         m_lines.append(line);
 }
 
-void EngineEvents::expectListed(
-    INxFolderMedia *folder, INxAbstractMedia *item, bool listed, const char *when)
+void EngineEvents::expectListed(INxFolderMedia *folder, INxAbstractMedia *item, bool listed,
+                                const char *when)
 {
     if (folder->containsMedia(item, false) != listed)
         complaints.append(QLatin1String(when) + QLatin1Char(' ') + item->name());
@@ -61,15 +60,15 @@ void EngineEvents::onAfterRemoveItemEvent(INxFolderMedia *folder, INxAbstractMed
     note(QStringLiteral("after remove %1 < %2").arg(item->name(), folder->name()));
 }
 
-void EngineEvents::onBeforeMoveItemEvent(
-    INxFolderMedia *from, INxFolderMedia *to, INxAbstractMedia *item)
+void EngineEvents::onBeforeMoveItemEvent(INxFolderMedia *from, INxFolderMedia *to,
+                                         INxAbstractMedia *item)
 {
     expectListed(from, item, true, "before move");
     note(QStringLiteral("before move %1: %2 > %3").arg(item->name(), from->name(), to->name()));
 }
 
-void EngineEvents::onAfterMoveItemEvent(
-    INxFolderMedia *from, INxFolderMedia *to, INxAbstractMedia *item)
+void EngineEvents::onAfterMoveItemEvent(INxFolderMedia *from, INxFolderMedia *to,
+                                        INxAbstractMedia *item)
 {
     expectListed(to, item, true, "after move");
     note(QStringLiteral("after move %1: %2 > %3").arg(item->name(), from->name(), to->name()));
@@ -105,8 +104,8 @@ void EngineEvents::onAfterAddFolderEvent()
     note(QStringLiteral("after folder add"));
 }
 
-void EngineEvents::onBeforeRemoveFolderEvent(
-    INxFolderMedia *parent, const int &first, const int &last)
+void EngineEvents::onBeforeRemoveFolderEvent(INxFolderMedia *parent, const int &first,
+                                             const int &last)
 {
     note(QStringLiteral("before folder remove %1 %2-%3").arg(parent->name()).arg(first).arg(last));
 }

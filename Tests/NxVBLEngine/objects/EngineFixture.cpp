@@ -7,12 +7,12 @@
 #include <QTextStream>
 
 EngineFixture::EngineFixture()
-    : memory(QString())
-    , category(memory.category(NXVBLMODEL::mctMedia))
-    , section(category->folder(NXVBLMODEL::fidRoot))
-    , folders(category->engineFolderManager())
-    , items(category->engineItemManager())
-    , undo(memory.undoStack())
+    : memory(QString()),
+      category(memory.category(NXVBLMODEL::mctMedia)),
+      section(category->folder(NXVBLMODEL::fidRoot)),
+      folders(category->engineFolderManager()),
+      items(category->engineItemManager()),
+      undo(memory.undoStack())
 {
 }
 
@@ -79,10 +79,9 @@ void dumpItem(QTextStream &out, const INxAbstractMedia *media)
     const auto *item = dynamic_cast<const INxAbstractMediaItem *>(media);
     if (!item)
         return;
-    out << '|' << item->filePath() << '|' << item->isUnavailable() << item->unavailableReason()
-        << ' ' << item->frameCount() << ' ' << item->frameRate().num << ' ' << item->hasDuration()
-        << item->parts().size() << item->isNeedDownload() << ' '
-        << item->dateCreated().toMSecsSinceEpoch() << ' '
+    out << '|' << item->filePath() << '|' << ' ' << item->frameCount() << ' '
+        << item->frameRate().num << ' ' << item->hasDuration() << item->parts().size()
+        << item->isNeedDownload() << ' ' << item->dateCreated().toMSecsSinceEpoch() << ' '
         << item->lastModified().toMSecsSinceEpoch() << ' ' << item->isNew() << ' '
         << item->usedCount() << ' ' << item->inPoint() << ' ' << item->outPoint() << ' '
         << item->isFavourite() << item->favouriteTime().toMSecsSinceEpoch() << ' '

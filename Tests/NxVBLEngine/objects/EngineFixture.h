@@ -35,5 +35,6 @@ struct EngineFixture
 /// Names of what a folder lists, separated by blanks.
 [[nodiscard]] QString listing(const INxFolderMedia *folder, bool recursive = true);
 
-/// Every folder and every item of every category with the answer of every query, as text.
+/// Every folder and every item of every category with the answer of every query, as text. Only
+/// whether a file is there is left out: the disk says that, not the project.
 [[nodiscard]] QByteArray projectDump(const NxProjectMemory &memory);

@@ -10,9 +10,9 @@
 using namespace NXVBLMODEL;
 
 RandomSession::RandomSession(NxProjectMemory *memory, quint32 seed)
-    : m_memory(memory)
-    , m_seed(seed)
-    , m_random(seed)
+    : m_memory(memory),
+      m_seed(seed),
+      m_random(seed)
 {
 }
 
@@ -111,8 +111,8 @@ bool RandomSession::renameResource()
 bool RandomSession::moveMedia()
 {
     NxEngineCategory *category = anyCategory();
-    return category->itemManager()->moveMediaItems(
-        nullptr, anyFolder(category, false), someMedia(category));
+    return category->itemManager()->moveMediaItems(nullptr, anyFolder(category, false),
+                                                   someMedia(category));
 }
 
 bool RandomSession::moveFolder()
@@ -120,8 +120,8 @@ bool RandomSession::moveFolder()
     NxEngineCategory *category = anyCategory();
     const int steps = m_memory->undoStack()->count();
     const qint64 serial = m_memory->undoStack()->lastSerial();
-    category->folderManager()->moveFolder(
-        anyFolder(category, true), anyFolder(category, false), below(6) - 1);
+    category->folderManager()->moveFolder(anyFolder(category, true), anyFolder(category, false),
+                                          below(6) - 1);
     return m_memory->undoStack()->count() != steps || m_memory->undoStack()->lastSerial() != serial;
 }
 
@@ -158,8 +158,10 @@ bool RandomSession::relink()
 {
     NxEngineMedia *media = anyMedia();
     return media
-        && m_memory->category(media->category())->itemManager()->relinkMedia(
-            media, QStringLiteral("/elsewhere/") + name("clip") + QStringLiteral(".wav"));
+           && m_memory->category(media->category())
+                  ->itemManager()
+                  ->relinkMedia(media, QStringLiteral("/elsewhere/") + name("clip")
+                                           + QStringLiteral(".wav"));
 }
 
 bool RandomSession::setUsed()

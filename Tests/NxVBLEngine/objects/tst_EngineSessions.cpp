@@ -73,7 +73,7 @@ private Q_SLOTS:
                 QCoreApplication::processEvents(); // Lets die what is due.
             if (i % 100 == 0) {
                 QVERIFY2(project.memory.brokenInvariant().isEmpty(),
-                    qPrintable(user.lastOperation() + project.memory.brokenInvariant()));
+                         qPrintable(user.lastOperation() + project.memory.brokenInvariant()));
             }
         }
         QVERIFY2(changes >= Operations * 7 / 10, qPrintable(QString::number(changes)));
@@ -95,7 +95,7 @@ private Q_SLOTS:
         while (project.undo->index() < done)
             QVERIFY(project.undo->redo());
         QCOMPARE(difference(projectDump(project.memory), end), QString());
-        while (project.undo->undo()) { }
+        while (project.undo->undo()) {}
         QCOMPARE(difference(projectDump(project.memory), start), QString());
         for (const auto &observer : observers)
             QCOMPARE(observer->complaints, QStringList());

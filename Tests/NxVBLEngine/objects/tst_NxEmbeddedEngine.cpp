@@ -16,6 +16,7 @@
 #include <NxVBLModel/NxMediaEngineDoor.h>
 #include <NxVBLModel/NxObserverConnector.h>
 
+#include <NxVBLEngine/Support/NxProjectDump.h>
 #include <Support/NxFootageGuard.h>
 #include <Support/NxTempDir.h>
 #include <Support/NxTestMain.h>
@@ -63,13 +64,13 @@ class tst_NxEmbeddedEngine : public QObject
     Q_OBJECT
 
 private:
+    static constexpr int Rounds = 4;
+    static constexpr int OperationsInARound = 1250;
+
     QTemporaryDir m_folder;
     int m_count = 0;
 
-    QString freshPath()
-    {
-        return m_folder.filePath(QStringLiteral("p%1.brevano").arg(++m_count));
-    }
+    QString freshPath() { return m_folder.filePath(QStringLiteral("p%1.brevano").arg(++m_count)); }
 
     QString footage(const QString &name)
     {
@@ -167,7 +168,7 @@ private Q_SLOTS:
     void randomSessionsSurviveClosingAndUndoInTheNextProcess_data()
     {
         QTest::addColumn<quint32>("seed");
-        for (quint32 seed = 1; seed <= 5; ++seed)
+        for (quint32 seed = 1; seed <= 20; ++seed)
             QTest::addRow("seed %u", seed) << seed;
         const quint32 fresh = QRandomGenerator::system()->generate();
         QTest::addRow("fresh seed %u", fresh) << fresh;
@@ -179,10 +180,10 @@ private Q_SLOTS:
         const QString path = freshPath();
         NxEmbeddedEngine engine(noBackups());
         QVERIFY(engine.createProject(path));
-        for (int round = 0; round < 4; ++round) {
+        for (int round = 0; round < Rounds; ++round) {
             auto *memory = static_cast<NxEngineProject *>(engine.currentProject())->memory();
             RandomSession user(memory, seed * 10 + quint32(round));
-            for (int i = 0; i < 250; ++i)
+            for (int i = 0; i < OperationsInARound; ++i)
                 user.step();
             const QByteArray end = dumpOf(engine.currentProject());
             const int done = memory->undoStack()->index();
@@ -194,10 +195,13 @@ private Q_SLOTS:
 
             INxUndoStack *undo = (*again)->undoStack();
             QCOMPARE(undo->index(), done);
-            while (undo->undo()) { }
+            const QByteArray fileAtEnd = dumpProjectFile(path);
+            while (undo->undo()) {}
             while (undo->index() < done)
                 QVERIFY(undo->redo());
             QCOMPARE(dumpOf(*again), end);
+            QVERIFY(commit(*again));
+            QCOMPARE(dumpProjectFile(path), fileAtEnd); // Every table and every column.
         }
     }
 
@@ -307,8 +311,8 @@ private Q_SLOTS:
         const auto project = engine.createProject(freshPath());
         QVERIFY(project);
         for (int category = 0; category < MediaCategoryCount; ++category) {
-            INxMediaManager *manager
-                = (*project)->mediaLibrary()->mediaManager(NxMediaCategoryType(category));
+            INxMediaManager *manager =
+                (*project)->mediaLibrary()->mediaManager(NxMediaCategoryType(category));
             QCOMPARE(manager->importer() != nullptr, category <= mctSplitScreen);
         }
         QCOMPARE((*project)->mediaLibrary()->mediaManager(mctNone), nullptr);

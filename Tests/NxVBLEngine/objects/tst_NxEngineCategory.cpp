@@ -92,7 +92,7 @@ private Q_SLOTS:
         QVERIFY(one->itemManager()->renameMediaItem(item, QStringLiteral("  Mine ")));
         QCOMPARE(item->name(), QStringLiteral("Mine"));
         QCOMPARE(events.take().first(),
-            QStringLiteral("renamed Mine < %1").arg(item->parentFolder()->name()));
+                 QStringLiteral("renamed Mine < %1").arg(item->parentFolder()->name()));
 
         QVERIFY(one->itemManager()->setFavourite(item, true));
         QVERIFY(item->isFavourite());

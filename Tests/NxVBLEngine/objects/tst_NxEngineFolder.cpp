@@ -43,7 +43,7 @@ private Q_SLOTS:
         for (const INxAbstractMedia *item : items)
             names.append(item->name());
         QCOMPARE(names.join(QLatin1Char(',')),
-            QStringLiteral("h.mov,Day 1,d1b.mov,d1a.mov,Day 2,d2.mov"));
+                 QStringLiteral("h.mov,Day 1,d1b.mov,d1a.mov,Day 2,d2.mov"));
     }
 
     void knowsWhatStandsBelow()

@@ -16,9 +16,9 @@ QString tree(const NxEngineFolder *folder)
     QStringList children;
     for (const NxEngineFolder *child : folder->children())
         children.append(tree(child));
-    const QString inside = children.isEmpty()
-        ? QString()
-        : QLatin1Char('(') + children.join(QLatin1Char(' ')) + QLatin1Char(')');
+    const QString inside =
+        children.isEmpty() ? QString()
+                           : QLatin1Char('(') + children.join(QLatin1Char(' ')) + QLatin1Char(')');
     return folder->name() + inside;
 }
 
@@ -36,11 +36,10 @@ private Q_SLOTS:
         QVERIFY(project.folders->addFolder(project.section, QStringLiteral(" B ")));
         QVERIFY(project.folders->addFolder(project.section, QStringLiteral("A")));
         QCOMPARE(tree(project.section), QStringLiteral("Project Media(B A)"));
-        QCOMPARE(events.take(),
-            (QStringList{QStringLiteral("before folder add Project Media 0-0"),
-                QStringLiteral("after folder add"),
-                QStringLiteral("before folder add Project Media 1-1"),
-                QStringLiteral("after folder add")}));
+        QCOMPARE(events.take(), (QStringList{QStringLiteral("before folder add Project Media 0-0"),
+                                             QStringLiteral("after folder add"),
+                                             QStringLiteral("before folder add Project Media 1-1"),
+                                             QStringLiteral("after folder add")}));
     }
 
     void refusesNamesThatAreNone_data()
@@ -97,8 +96,8 @@ private Q_SLOTS:
         NxEngineFolder *folder = project.addFolder(project.section, QStringLiteral("A"));
         EngineEvents events(project.category);
         QVERIFY(project.folders->renameFolder(folder, QStringLiteral("B")));
-        QCOMPARE(events.take(),
-            (QStringList{QStringLiteral("folder state B"), QStringLiteral("folder renamed B")}));
+        QCOMPARE(events.take(), (QStringList{QStringLiteral("folder state B"),
+                                             QStringLiteral("folder renamed B")}));
     }
 
     void removingAFolderTakesItsMediaFirstAndItsFoldersBottomUp()
@@ -111,9 +110,10 @@ private Q_SLOTS:
         EngineEvents events(project.category);
         QVERIFY(project.folders->canRemoveFolder(a));
         QVERIFY(project.folders->removeFolder(a));
-        QCOMPARE(events.take(),
-            (QStringList{QStringLiteral("before remove b.mov < B"),
-                QStringLiteral("after remove b.mov < B"),
+        QCOMPARE(
+            events.take(),
+            (QStringList{
+                QStringLiteral("before remove b.mov < B"), QStringLiteral("after remove b.mov < B"),
                 QStringLiteral("before folder remove A 0-0"), QStringLiteral("after folder remove"),
                 QStringLiteral("before remove a.mov < A"), QStringLiteral("after remove a.mov < A"),
                 QStringLiteral("before folder remove Project Media 0-0"),
@@ -147,8 +147,8 @@ private Q_SLOTS:
     void sectionsAndTheRootAreNotRemoved()
     {
         EngineFixture project;
-        for (INxFolderMedia *fixed : QList<INxFolderMedia *>{
-                 nullptr, project.category->root(), project.section}) {
+        for (INxFolderMedia *fixed :
+             QList<INxFolderMedia *>{nullptr, project.category->root(), project.section}) {
             QVERIFY(!project.folders->canRemoveFolder(fixed));
             QVERIFY(!project.folders->removeFolder(fixed));
         }
@@ -204,8 +204,10 @@ private Q_SLOTS:
         project.addMedia(b, QStringLiteral("b.mov"));
         EngineEvents events(project.category);
         QVERIFY(project.folders->moveFolder(b, a, 0));
-        QCOMPARE(events.take(),
-            (QStringList{QStringLiteral("before folder move"),
+        QCOMPARE(
+            events.take(),
+            (QStringList{
+                QStringLiteral("before folder move"),
                 QStringLiteral("before folder remove Project Media 1-1"),
                 QStringLiteral("after folder remove"), QStringLiteral("before folder add A 0-0"),
                 QStringLiteral("after folder add"), QStringLiteral("after folder move"),

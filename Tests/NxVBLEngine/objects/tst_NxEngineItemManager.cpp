@@ -41,11 +41,10 @@ private Q_SLOTS:
         const int steps = project.undo->count();
         EngineEvents events(project.category);
         QVERIFY(project.items->removeMediaItems(project.section, {media[2], media[0]}));
-        QCOMPARE(events.take(),
-            (QStringList{QStringLiteral("before remove c < Project Media"),
-                QStringLiteral("after remove c < Project Media"),
-                QStringLiteral("before remove a < Project Media"),
-                QStringLiteral("after remove a < Project Media")}));
+        QCOMPARE(events.take(), (QStringList{QStringLiteral("before remove c < Project Media"),
+                                             QStringLiteral("after remove c < Project Media"),
+                                             QStringLiteral("before remove a < Project Media"),
+                                             QStringLiteral("after remove a < Project Media")}));
         QCOMPARE(events.complaints, QStringList());
         QCOMPARE(listing(project.section), QStringLiteral("b"));
         QCOMPARE(project.undo->count(), steps + 1);
@@ -298,8 +297,8 @@ private Q_SLOTS:
             project.addMedia(project.section, {QStringLiteral("a"), QStringLiteral("b")});
         const QByteArray before = projectDump(project.memory);
         {
-            const NxUndoRedoCommander scope(
-                project.undo, QStringLiteral("test"), QStringLiteral("both"));
+            const NxUndoRedoCommander scope(project.undo, QStringLiteral("test"),
+                                            QStringLiteral("both"));
             project.items->renameMediaItem(media[0], QStringLiteral("x"));
             project.items->removeMediaItems(nullptr, {media[1]});
         }

@@ -23,7 +23,7 @@ private Q_SLOTS:
         constexpr size_t ById = sizeof(qint64) + sizeof(void *);
         constexpr size_t ByPath = 32 + 2 * sizeof(void *);
         QVERIFY2(sizeof(NxEngineMedia) + Folder + ById + ByPath <= 350,
-            qPrintable(QString::number(sizeof(NxEngineMedia))));
+                 qPrintable(QString::number(sizeof(NxEngineMedia))));
     }
 
     void answersWhatTheSuffixTells_data()

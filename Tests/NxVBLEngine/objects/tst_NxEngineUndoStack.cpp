@@ -96,9 +96,9 @@ private Q_SLOTS:
             project.items->renameMediaItem(media, QString::number(i));
         QCOMPARE(project.undo->count(), 200);
         QCOMPARE(project.undo->index(), 200);
-        while (project.undo->undo()) { }
+        while (project.undo->undo()) {}
         QCOMPARE(media->name(), QStringLiteral("49"));
-        while (project.undo->redo()) { }
+        while (project.undo->redo()) {}
         QCOMPARE(media->name(), QStringLiteral("249"));
     }
 

@@ -32,8 +32,8 @@ private Q_SLOTS:
         QCOMPARE(index.find(9), addressOf(9));
         QCOMPARE(index.find(1), addressOf(1));
         QCOMPARE(index.find(3), nullptr);
-        QCOMPARE(index.all(), (std::vector<NxEngineMedia *>{
-                                  addressOf(1), addressOf(2), addressOf(5), addressOf(9)}));
+        QCOMPARE(index.all(), (std::vector<NxEngineMedia *>{addressOf(1), addressOf(2),
+                                                            addressOf(5), addressOf(9)}));
     }
 
     void forgetsWhatWasRemoved()

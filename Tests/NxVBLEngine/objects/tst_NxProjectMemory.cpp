@@ -48,11 +48,10 @@ private Q_SLOTS:
         EngineFixture project;
         EngineEvents events(project.category);
         project.addMedia(project.section, {QStringLiteral("a"), QStringLiteral("b")});
-        QCOMPARE(events.take(),
-            (QStringList{QStringLiteral("before add a < Project Media"),
-                QStringLiteral("after add a < Project Media"),
-                QStringLiteral("before add b < Project Media"),
-                QStringLiteral("after add b < Project Media")}));
+        QCOMPARE(events.take(), (QStringList{QStringLiteral("before add a < Project Media"),
+                                             QStringLiteral("after add a < Project Media"),
+                                             QStringLiteral("before add b < Project Media"),
+                                             QStringLiteral("after add b < Project Media")}));
         QCOMPARE(events.complaints, QStringList());
         QCOMPARE(project.memory.livingMediaCount(), qint64(2));
     }
@@ -103,7 +102,7 @@ private Q_SLOTS:
                             folderRecord(1005, fidRoot, 2, "outer"),
                             folderRecord(1006, fidRoot, 1, "first")};
         contents.media = {mediaRecord(3, 1001, 5, "c"), mediaRecord(1, fidRoot, 2, "a"),
-            mediaRecord(2, fidRoot, 1, "b")};
+                          mediaRecord(2, fidRoot, 1, "b")};
         project.memory.load(contents);
         QCOMPARE(listing(project.section), QStringLiteral("b a c"));
         QCOMPARE(project.section->childFolder(0)->name(), QStringLiteral("first"));
@@ -119,7 +118,7 @@ private Q_SLOTS:
             folderRecord(1001, 4711, 1, "stray"), folderRecord(1002, 1001, 1, "child"),
             folderRecord(1003, 1004, 1, "ring a"), folderRecord(1004, 1003, 1, "ring b")};
         contents.media = {mediaRecord(1, 4712, 1, "lost"), mediaRecord(2, 1002, 2, "kept"),
-            mediaRecord(3, fidHiddenRoot, 3, "unfiled")};
+                          mediaRecord(3, fidHiddenRoot, 3, "unfiled")};
         project.memory.load(contents);
         QVERIFY(project.category->folder(1001));
         QCOMPARE(listing(project.category->folder(1001)), QStringLiteral("kept"));
@@ -185,8 +184,10 @@ private Q_SLOTS:
     {
         QTest::addColumn<QString>("path");
         QTest::addColumn<QString>("relative");
-        QTest::newRow("below") << "/films/footage/a.mov" << "footage/a.mov";
-        QTest::newRow("beside") << "/cards/a.mov" << "../cards/a.mov";
+        QTest::newRow("below") << "/films/footage/a.mov"
+                               << "footage/a.mov";
+        QTest::newRow("beside") << "/cards/a.mov"
+                                << "../cards/a.mov";
     }
 
     void newMediaAreStoredWithTheirWayFromTheProject()

@@ -18,8 +18,7 @@ private:
 
     NxEngineFolder *folderAtPlace(qint64 place)
     {
-        NxEngineFolder *made
-            = project.addFolder(project.section, QString::number(siblings.size()));
+        NxEngineFolder *made = project.addFolder(project.section, QString::number(siblings.size()));
         made->setPlace(place);
         siblings.append(made);
         return made;
