@@ -1,0 +1,190 @@
+// SPDX-FileCopyrightText: 2026 Brevano contributors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include <NxMediaLibrary/NxMediaDataModel/NxMediaItemGroup.h>
+#include <NxMediaLibrary/NxMediaDataModel/NxMediaItemSort.h>
+#include <NxVBLModel/INxAbstractMediaItem.h>
+#include <NxVBLModel/INxGroupMedia.h>
+#include <NxVBLModel/INxMediaInfo.h>
+
+#include <benchmark/benchmark.h>
+
+#include <QRandomGenerator>
+
+#include <algorithm>
+#include <chrono>
+#include <memory>
+#include <random>
+#include <vector>
+
+// Sorting and grouping of many media, each beside its bound: "x S(n)" is the time as a multiple of
+// what sorting n random 64-bit integers takes, measured in turn with it.
+namespace {
+
+using namespace NXMEDIALIBRARY;
+using Items = QList<INxAbstractMedia *>;
+using Clock = std::chrono::steady_clock;
+
+struct Info final : INxMediaInfo
+{
+    int kind() const override { return NXVBLMODEL::mikVideo; }
+    int streamFlags() const override { return flags; }
+    qint64 frameCount() const override { return frames; }
+    NxRational frameRate() const override { return {25, 1}; }
+    int flags = NXVBLMODEL::sfVideo;
+    qint64 frames = 0;
+};
+
+struct Item final : INxAbstractMediaItem
+{
+    NXVBLMODEL::NxMediaType mediaType() const override { return NXVBLMODEL::mtVideoAudio; }
+    QString name() const override { return title; }
+    const INxMediaInfo *mediaInfo() const override { return &info; }
+    QDateTime dateCreated() const override
+    {
+        return QDateTime::fromMSecsSinceEpoch(created, Qt::UTC);
+    }
+    int usedCount() const override { return used; }
+    QString cameraName() const override { return camera; }
+    QString categoryName() const override { return category; }
+
+    QString title;
+    Info info;
+    qint64 created = 0;
+    int used = 0;
+    QString camera;
+    QString category;
+};
+
+QString nameOf(int number, QRandomGenerator &random)
+{
+    const int place = random.bounded(100);
+    const QString digits = QStringLiteral("%1").arg(random.bounded(10000), 4, 10, QLatin1Char('0'));
+    if (place < 18)
+        return QStringLiteral("IMG_") + digits + QStringLiteral(".JPG");
+    if (place < 34)
+        return QStringLiteral("GX01") + digits + QStringLiteral(".MP4");
+    if (place < 60)
+        return QStringLiteral("Scene %1 take %2.mov").arg(random.bounded(200)).arg(number % 30);
+    if (place < 90)
+        return QStringLiteral("2024-%1-%2 clip %3")
+            .arg(random.bounded(1, 13))
+            .arg(random.bounded(1, 29))
+            .arg(number);
+    return QString::fromUtf8("Müller Straße %1").arg(random.bounded(5000));
+}
+
+std::vector<std::unique_ptr<Item>> makeItems(int count)
+{
+    QRandomGenerator random(1);
+    std::vector<std::unique_ptr<Item>> items;
+    for (int i = 0; i < count; ++i) {
+        auto item = std::make_unique<Item>();
+        item->title = nameOf(i, random);
+        item->info.frames = random.bounded(200000);
+        item->info.flags = random.bounded(3) ? NXVBLMODEL::sfVideo : NXVBLMODEL::sfImage;
+        item->created = 1400000000000LL + qint64(random.bounded(300000000)) * 1000;
+        item->used = random.bounded(1000);
+        item->camera = QStringLiteral("Camera %1").arg(random.bounded(40));
+        item->category = QStringLiteral("Pack %1").arg(random.bounded(40));
+        items.push_back(std::move(item));
+    }
+    return items;
+}
+
+Items listOf(const std::vector<std::unique_ptr<Item>> &items, bool scattered)
+{
+    Items list;
+    for (const std::unique_ptr<Item> &item : items)
+        list.append(item.get());
+    std::mt19937 random(2);
+    if (scattered)
+        std::shuffle(list.begin(), list.end(), random);
+    return list;
+}
+
+double secondsOf(Clock::time_point begin)
+{
+    return std::chrono::duration<double>(Clock::now() - begin).count();
+}
+
+double boundOnce(int count)
+{
+    std::vector<quint64> numbers(static_cast<size_t>(count));
+    std::mt19937_64 random(static_cast<quint64>(count));
+    for (quint64 &number : numbers)
+        number = random();
+    const Clock::time_point begin = Clock::now();
+    std::sort(numbers.begin(), numbers.end());
+    benchmark::DoNotOptimize(numbers.data());
+    return secondsOf(begin);
+}
+
+template<typename Work>
+void measure(benchmark::State &state, int count, Work work)
+{
+    std::vector<double> bounds;
+    std::vector<double> times;
+    for (auto turn : state) {
+        Q_UNUSED(turn)
+        bounds.push_back(boundOnce(count));
+        times.push_back(work());
+        state.SetIterationTime(times.back());
+    }
+    const auto median = [](std::vector<double> &values) {
+        std::nth_element(values.begin(), values.begin() + qint64(values.size() / 2), values.end());
+        return values[values.size() / 2];
+    };
+    state.counters["x S(n)"] = median(times) / median(bounds);
+}
+
+void sortItems(benchmark::State &state, int key, bool scattered)
+{
+    const int count = int(state.range(0));
+    const std::vector<std::unique_ptr<Item>> owned = makeItems(count);
+    const Items items = listOf(owned, scattered);
+    measure(state, count, [&] {
+        Items out;
+        const Clock::time_point begin = Clock::now();
+        NxMediaItemSort::Sort(items, {NxMediaItemViewSortBy(key), soASC}, out);
+        return secondsOf(begin);
+    });
+}
+
+void groupItems(benchmark::State &state, int key, bool scattered)
+{
+    const int count = int(state.range(0));
+    const std::vector<std::unique_ptr<Item>> owned = makeItems(count);
+    const Items items = listOf(owned, scattered);
+    measure(state, count, [&] {
+        Items out;
+        const Clock::time_point begin = Clock::now();
+        NxMediaItemGroup::Group(items, {NxMediaItemViewGroupBy(key), soASC, nullptr}, out);
+        const double seconds = secondsOf(begin);
+        for (INxAbstractMedia *group : qAsConst(out))
+            INxGroupMedia::releaseGroup(dynamic_cast<INxGroupMedia *>(group));
+        return seconds;
+    });
+}
+
+void sized(benchmark::internal::Benchmark *bench)
+{
+    bench->Arg(1000)->Arg(10000)->Arg(100000)->Arg(1000000)->UseManualTime()->Iterations(7)->Unit(
+        benchmark::kMillisecond);
+}
+
+} // namespace
+
+BENCHMARK_CAPTURE(sortItems, name in import order, sbName, false)->Apply(sized);
+BENCHMARK_CAPTURE(sortItems, name scattered, sbName, true)->Apply(sized);
+BENCHMARK_CAPTURE(sortItems, duration, sbDuration, false)->Apply(sized);
+BENCHMARK_CAPTURE(sortItems, date created, sbDateCreated, false)->Apply(sized);
+BENCHMARK_CAPTURE(sortItems, used, sbUsed, false)->Apply(sized);
+BENCHMARK_CAPTURE(sortItems, type, sbType, false)->Apply(sized);
+BENCHMARK_CAPTURE(sortItems, category, sbCategory, false)->Apply(sized);
+BENCHMARK_CAPTURE(groupItems, type, gbType, false)->Apply(sized);
+BENCHMARK_CAPTURE(groupItems, date created, gbDateCreated, false)->Apply(sized);
+BENCHMARK_CAPTURE(groupItems, duration, gbDuration, false)->Apply(sized);
+BENCHMARK_CAPTURE(groupItems, camera, gbCameraName, false)->Apply(sized);
+BENCHMARK_CAPTURE(groupItems, category, gbCategory, false)->Apply(sized);
+
+BENCHMARK_MAIN();
