@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include <NxCore/NxIniSettingsStore.h>
 
+#include <NxCore/NxIniFileGuard.h>
 #include <NxCore/NxLog.h>
 
 #include <QSettings>
@@ -24,19 +25,41 @@ QString NxIniSettingsStore::userPath()
 
 QVariant NxIniSettingsStore::value(const QString &key) const
 {
-    return m_settings->value(key);
+    const auto unsaved = m_unsaved.constFind(key);
+    return unsaved == m_unsaved.constEnd() ? m_settings->value(key) : *unsaved;
 }
 
 void NxIniSettingsStore::setValue(const QString &key, const QVariant &value)
 {
+    if (!mayWrite()) {
+        m_unsaved.insert(key, value);
+        return;
+    }
+    m_unsaved.remove(key);
     m_settings->setValue(key, value);
     write();
 }
 
 void NxIniSettingsStore::remove(const QString &key)
 {
+    if (!mayWrite()) {
+        m_unsaved.insert(key, QVariant());
+        return;
+    }
+    m_unsaved.remove(key);
     m_settings->remove(key);
     write();
+}
+
+bool NxIniSettingsStore::mayWrite() const
+{
+    const QString path = m_settings->fileName();
+    const QString trouble = NxIniFileGuard::writingTrouble(path);
+    if (trouble.isEmpty())
+        return true;
+    NX_LOG_ERROR("%s: the settings cannot be written: it %s", qUtf8Printable(path),
+                 qUtf8Printable(trouble));
+    return false;
 }
 
 void NxIniSettingsStore::write()

@@ -4,6 +4,8 @@
 
 #include <NxCore/INxSettingsStore.h>
 
+#include <QHash>
+
 #include <memory>
 
 class QSettings;
@@ -25,7 +27,9 @@ public:
     void remove(const QString &key) override;
 
 private:
+    [[nodiscard]] bool mayWrite() const;
     void write();
 
     const std::unique_ptr<QSettings> m_settings;
+    QHash<QString, QVariant> m_unsaved; // What the file could not take; an invalid one is removed.
 };

@@ -10,11 +10,46 @@
 #include <QFileInfo>
 #include <QTest>
 
+#include <csignal>
 #include <functional>
 #include <memory>
 
+#include <sys/resource.h>
+
 using Maker = std::function<std::unique_ptr<INxSettingsStore>(const QString &path)>;
 Q_DECLARE_METATYPE(Maker)
+
+namespace {
+
+/// While it lives no file may grow beyond what a lock file needs, as if the disk were full.
+class FullDisk
+{
+public:
+    FullDisk()
+    {
+        constexpr rlim_t LockBytes = 256;
+        m_isFull = getrlimit(RLIMIT_FSIZE, &m_before) == 0;
+        const rlimit limit{LockBytes, m_before.rlim_max};
+        m_isFull = m_isFull && std::signal(SIGXFSZ, SIG_IGN) != SIG_ERR
+                   && setrlimit(RLIMIT_FSIZE, &limit) == 0;
+    }
+    ~FullDisk() { setrlimit(RLIMIT_FSIZE, &m_before); }
+    Q_DISABLE_COPY_MOVE(FullDisk)
+
+    [[nodiscard]] bool isFull() const { return m_isFull; }
+
+private:
+    rlimit m_before{};
+    bool m_isFull = false;
+};
+
+QByteArray contents(const QString &path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+} // namespace
 
 /// The same promises of both stores.
 class tst_NxSettingsStore : public QObject
@@ -26,6 +61,8 @@ private Q_SLOTS:
     void iniFileSurvivesTheStore();
     void iniFileIsWrittenAtOnce();
     void unwritableFileIsReportedByName();
+    void fullDiskKeepsTheOlderFile();
+    void foreignLockIsNotWaitedFor();
     void userFileIsInTheUsersConfiguration();
 };
 
@@ -87,6 +124,40 @@ void tst_NxSettingsStore::unwritableFileIsReportedByName()
     NxIniSettingsStore store(path);
     store.setValue(QStringLiteral("A/B"), 77);
     QCOMPARE(store.value(QStringLiteral("A/B")).toInt(), 77);
+}
+
+void tst_NxSettingsStore::fullDiskKeepsTheOlderFile()
+{
+    const NxTempDir dir;
+    const QString path = dir.filePath(QStringLiteral("s.ini"));
+    NxIniSettingsStore store(path);
+    store.setValue(QStringLiteral("A/B"), 77);
+    const QByteArray before = contents(path);
+    {
+        const FullDisk disk;
+        QVERIFY(disk.isFull());
+        NxTestLog::expectErrors(path + QStringLiteral(": the settings cannot be written"));
+        store.setValue(QStringLiteral("A/B"), 78);
+        store.setValue(QStringLiteral("A/C"), QStringLiteral("new"));
+        store.remove(QStringLiteral("A/D"));
+        QCOMPARE(store.value(QStringLiteral("A/B")).toInt(), 78); // Until the process ends.
+        QCOMPARE(store.value(QStringLiteral("A/C")).toString(), QStringLiteral("new"));
+    }
+    QCOMPARE(contents(path), before);
+    store.setValue(QStringLiteral("A/B"), 79);
+    QCOMPARE(NxIniSettingsStore(path).value(QStringLiteral("A/B")).toInt(), 79);
+}
+
+void tst_NxSettingsStore::foreignLockIsNotWaitedFor()
+{
+    const NxTempDir dir;
+    const QString path = dir.filePath(QStringLiteral("s.ini"));
+    dir.makeDir(QStringLiteral("s.ini.lock"));
+    NxTestLog::expectErrors(path + QStringLiteral(": the settings cannot be written"));
+    NxIniSettingsStore store(path);
+    store.setValue(QStringLiteral("A/B"), 77);
+    QCOMPARE(store.value(QStringLiteral("A/B")).toInt(), 77);
+    QVERIFY(!QFileInfo::exists(path));
 }
 
 void tst_NxSettingsStore::userFileIsInTheUsersConfiguration()

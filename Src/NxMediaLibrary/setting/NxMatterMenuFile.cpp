@@ -3,13 +3,12 @@
 #include "NxMatterMenuFile_p.h"
 
 #include <NxCore/INxAppInfo.h>
+#include <NxCore/NxIniFileGuard.h>
 #include <NxCore/NxLog.h>
 
 #include <QFile>
 #include <QFileInfo>
-#include <QLockFile>
 #include <QSettings>
-#include <QTemporaryFile>
 
 namespace {
 
@@ -22,29 +21,10 @@ constexpr qint64 LargestBytes = 16 * 1024;
 /// stack, and QSettings does not survive the lack of either.
 const char *const VariantMark = "@Variant(";
 
-/// What a file may grow by in one write: a new key, and every byte of foreign texts escaped.
-constexpr qint64 RoomBytes = 1024;
-constexpr qint64 LongestEscape = 6;
-
-/// How long a write waits for another program's write to end.
-constexpr int LockPatienceMs = 100;
-
 QString filePath()
 {
     const QString folder = INxAppInfo::getInstance()->getDirectory(INxAppInfo::pkUserData);
     return folder.isEmpty() ? QString() : folder + QStringLiteral("/Brevano.ini");
-}
-
-QString lockPath(const QString &path)
-{
-    return path + QStringLiteral(".lock");
-}
-
-/// Whether something stands there that is no file: a pipe would never let go of who opens it.
-bool isForeign(const QString &path)
-{
-    const QFileInfo info(path);
-    return info.exists() && !info.isFile();
 }
 
 } // namespace
@@ -66,7 +46,7 @@ QHash<QString, QString> NxMatterMenuFile::texts(const QStringList &keys)
 
 void NxMatterMenuFile::write(const QString &key, const QString &text)
 {
-    if (isBarredBy(readingTrouble()) || isBarredBy(writingTrouble()))
+    if (isBarredBy(readingTrouble()) || isBarredBy(NxIniFileGuard::writingTrouble(m_path)))
         return;
     QSettings settings(m_path, QSettings::IniFormat);
     settings.beginGroup(groupName);
@@ -78,7 +58,7 @@ QString NxMatterMenuFile::readingTrouble() const
 {
     if (m_path.isEmpty())
         return QStringLiteral("has no folder");
-    if (isForeign(m_path))
+    if (NxIniFileGuard::isForeign(m_path))
         return QStringLiteral("is no file");
     if (QFileInfo(m_path).size() > LargestBytes)
         return QStringLiteral("is too large to be settings");
@@ -86,28 +66,6 @@ QString NxMatterMenuFile::readingTrouble() const
     if (file.open(QFile::ReadOnly) && file.read(LargestBytes).contains(VariantMark))
         return QStringLiteral("holds values that are no texts");
     return QString();
-}
-
-/// QSettings waits without limit for its lock, so a lock that does not come is found out before.
-QString NxMatterMenuFile::writingTrouble() const
-{
-    if (isForeign(lockPath(m_path)))
-        return QStringLiteral("is locked for ever by something that is no file");
-    QLockFile lock(lockPath(m_path));
-    if (!lock.tryLock(LockPatienceMs) && lock.error() == QLockFile::LockFailedError)
-        return QStringLiteral("is kept locked by another program");
-    return hasRoom() ? QString() : QStringLiteral("has no room on the disk");
-}
-
-/// On a full disk QSettings would put an empty file in the place of the good one, so its room is
-/// taken once before. A folder in which nothing can be made is no danger.
-bool NxMatterMenuFile::hasRoom() const
-{
-    QTemporaryFile trial(m_path + QStringLiteral(".XXXXXX"));
-    if (!trial.open())
-        return true;
-    const qint64 bytes = RoomBytes + LongestEscape * QFileInfo(m_path).size();
-    return trial.write(QByteArray(int(bytes), 'x')) == bytes && trial.flush();
 }
 
 bool NxMatterMenuFile::isBarredBy(const QString &trouble)

@@ -27,10 +27,8 @@ public:
     void write(const QString &key, const QString &text);
 
 private:
-    /// Why the file is left alone altogether, or must not be written now; empty when neither.
+    /// Why the file is left alone altogether; empty when it is not.
     [[nodiscard]] QString readingTrouble() const;
-    [[nodiscard]] QString writingTrouble() const;
-    [[nodiscard]] bool hasRoom() const;
     /// Whether there is a trouble; the first one is reported.
     [[nodiscard]] bool isBarredBy(const QString &trouble);
 
