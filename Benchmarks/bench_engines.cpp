@@ -16,7 +16,7 @@
 #include <random>
 #include <vector>
 
-// Sorting and grouping of many media, each beside its bound: "x S(n)" is the time as a multiple of
+// Sorting and grouping of many media, each beside its bound: "times_S" is the time as a multiple of
 // what sorting n random 64-bit integers takes, measured in turn with it.
 namespace {
 
@@ -134,7 +134,7 @@ void measure(benchmark::State &state, int count, Work work)
         std::nth_element(values.begin(), values.begin() + qint64(values.size() / 2), values.end());
         return values[values.size() / 2];
     };
-    state.counters["x S(n)"] = median(times) / median(bounds);
+    state.counters["times_S"] = median(times) / median(bounds);
 }
 
 void sortItems(benchmark::State &state, int key, bool scattered)
@@ -174,15 +174,15 @@ void sized(benchmark::internal::Benchmark *bench)
 
 } // namespace
 
-BENCHMARK_CAPTURE(sortItems, name in import order, sbName, false)->Apply(sized);
-BENCHMARK_CAPTURE(sortItems, name scattered, sbName, true)->Apply(sized);
+BENCHMARK_CAPTURE(sortItems, name_in_import_order, sbName, false)->Apply(sized);
+BENCHMARK_CAPTURE(sortItems, name_scattered, sbName, true)->Apply(sized);
 BENCHMARK_CAPTURE(sortItems, duration, sbDuration, false)->Apply(sized);
-BENCHMARK_CAPTURE(sortItems, date created, sbDateCreated, false)->Apply(sized);
+BENCHMARK_CAPTURE(sortItems, date_created, sbDateCreated, false)->Apply(sized);
 BENCHMARK_CAPTURE(sortItems, used, sbUsed, false)->Apply(sized);
 BENCHMARK_CAPTURE(sortItems, type, sbType, false)->Apply(sized);
 BENCHMARK_CAPTURE(sortItems, category, sbCategory, false)->Apply(sized);
 BENCHMARK_CAPTURE(groupItems, type, gbType, false)->Apply(sized);
-BENCHMARK_CAPTURE(groupItems, date created, gbDateCreated, false)->Apply(sized);
+BENCHMARK_CAPTURE(groupItems, date_created, gbDateCreated, false)->Apply(sized);
 BENCHMARK_CAPTURE(groupItems, duration, gbDuration, false)->Apply(sized);
 BENCHMARK_CAPTURE(groupItems, camera, gbCameraName, false)->Apply(sized);
 BENCHMARK_CAPTURE(groupItems, category, gbCategory, false)->Apply(sized);
