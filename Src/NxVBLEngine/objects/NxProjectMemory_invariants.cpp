@@ -53,14 +53,19 @@ QString NxProjectMemory::brokenInvariant() const
 
     const std::vector<NxEngineMedia *> media = m_mediaById->all();
     qint64 living = 0;
+    int indexed = 0;
     for (NxEngineMedia *one : media) {
         const bool isFound = allMediaByPath(one->sourcePath()).contains(one);
         if (isFound != (one->folder() != nullptr))
             return QStringLiteral("media %1 and the index of paths disagree").arg(one->id());
         living += one->folder() ? 1 : 0;
+        if (one->folder())
+            indexed += one->canonicalPath() == one->sourcePath() ? 1 : 2;
         if (one->id() >= m_counters.nextMediaId || one->place() >= m_counters.nextPlace)
             return QStringLiteral("media %1 is ahead of the project's counters").arg(one->id());
     }
+    if (indexed != m_mediaByPathHash.size())
+        return QStringLiteral("the index of paths holds what does not live");
     if (living != m_livingMedia)
         return QStringLiteral("%1 media live, %2 are counted").arg(living).arg(m_livingMedia);
     if (m_undoStack->index() < 0 || m_undoStack->index() > m_undoStack->count())

@@ -235,6 +235,7 @@ private Q_SLOTS:
         QCOMPARE(project.memory.mediaByPath(QStringLiteral("/footage/a.mov"), mctMedia), media);
         QCOMPARE(media->mediaType(), mtVideoAudio);
         QVERIFY(!project.items->relinkMedia(media, QString()));
+        QCOMPARE(project.memory.brokenInvariant(), QString());
     }
 
     void addingWhatStandsElsewhereMovesIt()
