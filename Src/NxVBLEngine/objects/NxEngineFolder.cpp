@@ -122,11 +122,6 @@ void NxEngineFolder::takeItem(NxEngineItem *item)
     item->setFolder(nullptr);
 }
 
-void NxEngineFolder::reserveItems(int count)
-{
-    m_items.reserve(size_t(count));
-}
-
 void NxEngineFolder::insertGuest(NxEngineItem *item)
 {
     const auto earlier = [](const NxEngineItem *a, const NxEngineItem *b) {

@@ -51,7 +51,6 @@ public:
     /// By the item's place; items that come in order are appended.
     void insertItem(NxEngineItem *item);
     void takeItem(NxEngineItem *item);
-    void reserveItems(int count);
     /// In the order in which they became favourites.
     void insertGuest(NxEngineItem *item);
     void takeGuest(NxEngineItem *item);

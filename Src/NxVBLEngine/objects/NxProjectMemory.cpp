@@ -252,7 +252,6 @@ void NxProjectMemory::setMovedPath(NxEngineMedia *media, const QString &path)
     if (!m_readOnly)
         enqueue(NxStoreEntry::Facts{{storedRecord(media)}});
     announce(media);
-    Q_EMIT pathsChanged();
 }
 
 void NxProjectMemory::setPresence(NxEngineMedia *media, NxPresence presence)

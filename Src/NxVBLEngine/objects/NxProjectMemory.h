@@ -115,8 +115,6 @@ public:
 Q_SIGNALS:
     /// A change was applied, by whom ever.
     void applied(const NxChange &change);
-    /// Living media came, left, or changed their path.
-    void pathsChanged();
 
 private:
     using Handler = void (NxProjectMemory::*)(const NxChange &);

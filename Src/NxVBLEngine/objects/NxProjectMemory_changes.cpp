@@ -175,7 +175,6 @@ void NxProjectMemory::applyMediaAdd(const NxChange &change)
         indexPath(added);
         ++m_livingMedia;
     }
-    Q_EMIT pathsChanged();
 }
 
 void NxProjectMemory::applyMediaRemove(const NxChange &change)
@@ -186,7 +185,6 @@ void NxProjectMemory::applyMediaRemove(const NxChange &change)
         unindexPath(removed);
         --m_livingMedia;
     }
-    Q_EMIT pathsChanged();
 }
 
 void NxProjectMemory::applyMediaRename(const NxChange &change)
@@ -240,7 +238,6 @@ void NxProjectMemory::applyMediaRelink(const NxChange &change)
     indexPath(relinked);
     enqueue(NxStoreEntry::Facts{{storedRecord(relinked)}});
     announce(relinked);
-    Q_EMIT pathsChanged();
 }
 
 void NxProjectMemory::applyMediaUsed(const NxChange &change)

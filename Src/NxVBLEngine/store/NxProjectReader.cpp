@@ -207,7 +207,7 @@ NxProjectContents NxProjectReader::read(const QString &damage)
     readUndo();
     if (m_impossible > 0) {
         m_damage += QCoreApplication::translate("NxProjectStore",
-                                                "%n entry(s) with impossible values are left out",
+                                                "entries with impossible values are left out: %n",
                                                 nullptr, int(std::min<qint64>(m_impossible, 1e9)));
     }
     m_damage.removeDuplicates();

@@ -108,7 +108,7 @@ void tst_NxProjectChecker::findsWhatDoesNotFit_data()
         << QStringLiteral("the place within the undo steps is impossible");
     QTest::newRow("impossible values")
         << QByteArray("UPDATE media SET alive = 5 WHERE id = 7")
-        << QStringLiteral("1 entry(s) with impossible values are left out");
+        << QStringLiteral("entries with impossible values are left out: 1");
 }
 
 void tst_NxProjectChecker::findsWhatDoesNotFit()
