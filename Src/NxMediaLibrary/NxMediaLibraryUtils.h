@@ -12,6 +12,7 @@
 class INxAbstractMedia;
 class INxAbstractMediaItem;
 class INxFolderMedia;
+class QWidget;
 
 /// Small questions that the panel's presenters share. GUI thread only.
 ///
@@ -74,6 +75,10 @@ public:
     [[nodiscard]] static bool isH265Encode(INxAbstractMediaItem *item);
     /// A file of a video DVD, by its suffix; false for null.
     [[nodiscard]] static bool IsVob(INxAbstractMediaItem *item);
+
+    /// Tells the user that HEVC cannot be played yet, waits, and opens the page "HevcPage" of
+    /// NxConfig, however the dialog was closed. A page that does not open is an error in the log.
+    static void ShowHEVCHintWidget(QWidget *parent);
 
     // What a media is. Each answers false for null. None touches a disk.
 

@@ -33,6 +33,12 @@ NXVBLMODEL::NxMediaType INxFolderMedia::mediaType() const
     return NXVBLMODEL::mtFolder;
 }
 
+INxAbstractMedia *INxFolderMedia::lastMedia(bool recursive) const
+{
+    const QList<INxAbstractMedia *> listed = items(recursive, true);
+    return listed.isEmpty() ? nullptr : listed.last();
+}
+
 bool INxFolderMedia::contains(const INxFolderMedia *folder, bool recursive) const
 {
     return folder && isReachedFrom(folder->parentFolder(), this, recursive);

@@ -36,6 +36,9 @@ public:
     /// `mediaOnly` no folder objects, otherwise each child folder stands before its items. The
     /// order is the same after the project is opened again.
     [[nodiscard]] virtual QList<INxAbstractMedia *> items(bool recursive, bool mediaOnly) const = 0;
+    /// The last of items(recursive, true); null when there is none. Asked at every addition, so an
+    /// engine that expects many media answers without listing them.
+    [[nodiscard]] virtual INxAbstractMedia *lastMedia(bool recursive) const;
     /// False for the folder itself.
     [[nodiscard]] virtual bool contains(const INxFolderMedia *folder, bool recursive) const;
     /// Walks up the media's parents: O(depth).

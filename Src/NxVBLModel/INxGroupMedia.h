@@ -33,6 +33,10 @@ public:
     virtual void setMembers(const QList<INxAbstractMedia *> &members) = 0;
     /// Appends; an "Import Media" tile goes first. Null is ignored.
     virtual void addMember(INxAbstractMedia *member) = 0;
+    /// Puts a member, which is no tile, before the one that stands at `index` among all members.
+    virtual void insertMember(int index, INxAbstractMedia *member) = 0;
+    /// The member itself is not touched and may be dead. Ignored when out of range.
+    virtual void removeMemberAt(int index) = 0;
     /// Takes out every occurrence; the member itself is not touched and may be dead.
     virtual void removeMember(INxAbstractMedia *member) = 0;
 

@@ -9,6 +9,7 @@
 #include <QDir>
 #include <QFile>
 #include <QLibraryInfo>
+#include <QSet>
 #include <QtTest>
 
 #include <algorithm>
@@ -48,6 +49,7 @@ private Q_SLOTS:
     void noFileIncludesItself();
     void noFoldersIncludeEachOther();
     void modulesLinkOnlyWhatTheyStandOn();
+    void plainReferencesDoNotKnowWhatTheyAreComparedWith();
 
     void aFaultyTreeIsTold_data();
     void aFaultyTreeIsTold();
@@ -100,6 +102,27 @@ void tst_IncludeDirections::modulesLinkOnlyWhatTheyStandOn()
     }
     QVERIFY(modules.contains(QStringLiteral("NxCore")));
     QVERIFY(noFaults(faults));
+}
+
+void tst_IncludeDirections::plainReferencesDoNotKnowWhatTheyAreComparedWith()
+{
+    const QVector<SourceFile> tests =
+        SourceFile::readTree(QStringLiteral(NX_SOURCE_DIR "/Tests/NxMediaLibrary"));
+    QStringList faults;
+    QSet<QString> references;
+    for (const IncludeLine &include : includeLines(tests)) {
+        const QString &from = tests.at(include.file).path;
+        if (!from.startsWith(QLatin1String("Plain")))
+            continue;
+        references.insert(from);
+        const bool isPlain = include.target.startsWith(QLatin1String("Plain"));
+        const bool isOutside = !include.target.contains(QLatin1String("NxMediaDataModel/"))
+                               && !include.target.endsWith(QLatin1String("_p.h"));
+        if (!isPlain && !isOutside)
+            faults.append(from + QStringLiteral(" knows ") + include.target);
+    }
+    QVERIFY2(faults.isEmpty(), qPrintable(told(faults)));
+    QVERIFY2(references.size() > 8, "the references are elsewhere");
 }
 
 void tst_IncludeDirections::aFaultyTreeIsTold_data()

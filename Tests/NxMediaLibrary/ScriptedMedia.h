@@ -50,7 +50,9 @@ struct ScriptedItem final : INxAbstractMediaItem
     }
 
     NXVBLMODEL::NxMediaType mediaType() const override { return type; }
+    int state() const override { return licence; }
     QString name() const override { return title; }
+    INxFolderMedia *parentFolder() const override { return home; }
     bool isResource() const override { return resource; }
     const INxMediaInfo *mediaInfo() const override { return hasInfo ? &info : nullptr; }
     bool isUnavailable() const override { return unavailable; }
@@ -74,6 +76,8 @@ struct ScriptedItem final : INxAbstractMediaItem
 
     NXVBLMODEL::NxMediaType type;
     QString title;
+    int licence = NXVBLMODEL::lsFree;
+    INxFolderMedia *home = nullptr; // Not owned.
     bool resource = false;
     bool hasInfo = true;
     ScriptedInfo info;

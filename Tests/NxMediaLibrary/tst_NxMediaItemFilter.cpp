@@ -169,6 +169,7 @@ private Q_SLOTS:
     void skipsNulls();
     void findsAKeywordInTheName_data();
     void findsAKeywordInTheName();
+    void findsOneLetterAsTextsDo();
     void aTemplateIsSubjectToTheKeyword();
     void typeAndKeywordBothDecide();
     void readsTheSettingsAnewEachTime();
@@ -302,6 +303,22 @@ void tst_NxMediaItemFilter::findsAKeywordInTheName()
     UtilsItem item(mtTitle);
     item.shownName = name;
     QTEST(passes(byKeyword(keyword), &item), "shown");
+}
+
+void tst_NxMediaItemFilter::findsOneLetterAsTextsDo()
+{
+    UtilsItem item;
+    item.type = mtVideo;
+    for (const char *keyword : {"m", "K", "s", "i", "I", "1", "\xc4\xb1", "\xc3\x9f", "\xc2\xb5"}) {
+        const NxMediaItemViewFilter settings = byKeyword(QString::fromUtf8(keyword));
+        for (int unit = 1; unit <= 0xffff; ++unit) {
+            item.shownName = QChar(unit);
+            if (passes(settings, &item)
+                != item.shownName.contains(settings.keyword, Qt::CaseInsensitive))
+                QFAIL(qPrintable(
+                    QStringLiteral("%1 in U+%2").arg(settings.keyword).arg(unit, 4, 16)));
+        }
+    }
 }
 
 void tst_NxMediaItemFilter::aTemplateIsSubjectToTheKeyword()

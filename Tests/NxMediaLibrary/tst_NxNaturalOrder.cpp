@@ -10,6 +10,8 @@
 
 #include <algorithm>
 #include <numeric>
+#include <utility>
+#include <vector>
 
 #include "PlainNaturalOrder.h"
 
@@ -95,6 +97,81 @@ private:
     QRandomGenerator m_random;
 };
 
+using Names = std::vector<QString>;
+
+Names differentNames(int count)
+{
+    const QStringList list = NameMaker(9001).names(count);
+    return Names(list.begin(), list.begin() + count);
+}
+
+Names manyEqualNames(int count)
+{
+    NameMaker maker(9002);
+    const QStringList few = maker.names(46).mid(6); // Without the very long ones.
+    Names names;
+    while (int(names.size()) < count)
+        names.push_back(few.at(maker.below(few.size())));
+    return names;
+}
+
+// Differ only behind many equal bytes of their keys, and some are the beginnings of others.
+Names namesThatBeginAlike(int count)
+{
+    NameMaker maker(9003);
+    Names names;
+    while (int(names.size()) < count) {
+        QString name(QLatin1Char('a'));
+        name += QString(8 * maker.below(12), QLatin1Char('a')) + QStringLiteral("100000000000000");
+        if (maker.below(3) > 0)
+            name +=
+                QStringLiteral("-%1").arg(maker.below(400), maker.below(4), 10, QLatin1Char('0'));
+        names.push_back(maker.below(2) ? name.toUpper() : name);
+    }
+    return names;
+}
+
+// As cameras and people name them.
+Names namesOfFootage(int count)
+{
+    NameMaker maker(9004);
+    Names names;
+    while (int(names.size()) < count) {
+        const int number = maker.below(3000);
+        switch (maker.below(4)) {
+        case 0:
+            names.push_back(QStringLiteral("IMG_%1.JPG").arg(number, 4, 10, QLatin1Char('0')));
+            break;
+        case 1:
+            names.push_back(QStringLiteral("2024-%1-%2 clip %3")
+                                .arg(1 + maker.below(12))
+                                .arg(1 + maker.below(28))
+                                .arg(number));
+            break;
+        case 2:
+            names.push_back(QStringLiteral("Scene %1 take %2.mov").arg(number % 90).arg(number));
+            break;
+        default:
+            names.push_back(QString::fromUtf8("Müller Straße %1 ’t").arg(number));
+        }
+    }
+    return names;
+}
+
+std::vector<quint32> plainlySorted(const Names &names, bool descending)
+{
+    std::vector<Name> readNames;
+    for (const QString &name : names)
+        readNames.push_back(read(name));
+    std::vector<quint32> order(names.size());
+    std::iota(order.begin(), order.end(), 0u);
+    std::stable_sort(order.begin(), order.end(), [&](quint32 a, quint32 b) {
+        const int compared = compareNames(readNames[a], readNames[b]);
+        return descending ? compared > 0 : compared < 0;
+    });
+    return order;
+}
+
 int sign(int number)
 {
     return number < 0 ? -1 : number > 0 ? 1 : 0;
@@ -116,7 +193,32 @@ QByteArray shown(const QString &a, const QString &b)
     return hex(a) + "| " + hex(b);
 }
 
+// Each name must stand before its next, equal ones by their place: only one order is so.
+QByteArray faultOfOrder(const Names &names, const std::vector<quint32> &order, bool descending)
+{
+    std::vector<bool> seen(names.size(), false);
+    for (size_t i = 0; i < order.size(); ++i) {
+        const quint32 place = order[i];
+        if (place >= names.size() || seen[place])
+            return "not each name once";
+        seen[place] = true;
+        if (i == 0)
+            continue;
+        const quint32 before = order[i - 1];
+        const int direction = descending ? -1 : 1;
+        const int pairwise = direction * NxNaturalOrder::compare(names[before], names[place]);
+        const int plain = direction * PlainNaturalOrder::compare(names[before], names[place]);
+        if (pairwise > 0 || plain > 0)
+            return "the wrong way round: " + shown(names[before], names[place]);
+        if ((pairwise == 0) != (plain == 0) || (plain == 0 && before > place))
+            return "equal names have changed places: " + shown(names[before], names[place]);
+    }
+    return order.size() == names.size() ? QByteArray() : QByteArray("names are missing");
+}
+
 } // namespace
+
+Q_DECLARE_METATYPE(Names)
 
 class tst_NxNaturalOrder : public QObject
 {
@@ -134,6 +236,8 @@ private Q_SLOTS:
     void isATotalOrder();
     void sortsAsPairwiseComparisonDoes_data();
     void sortsAsPairwiseComparisonDoes();
+    void sortsListsOfAnyKindAndLength_data();
+    void sortsListsOfAnyKindAndLength();
     void keepsTheOrderOfEqualNamesInBothDirections();
     void sortsNothing();
 };
@@ -366,17 +470,36 @@ void tst_NxNaturalOrder::sortsAsPairwiseComparisonDoes()
     QFETCH(quint32, seed);
     QFETCH(bool, descending);
     const QStringList list = NameMaker(seed).names(300);
-    const std::vector<QString> names(list.begin(), list.end());
-    QVector<Name> readNames;
-    for (const QString &name : names)
-        readNames.append(read(name));
-    std::vector<quint32> expected(names.size());
-    std::iota(expected.begin(), expected.end(), 0u);
-    std::stable_sort(expected.begin(), expected.end(), [&](quint32 a, quint32 b) {
-        const int order = compareNames(readNames.at(int(a)), readNames.at(int(b)));
-        return descending ? order > 0 : order < 0;
-    });
-    QCOMPARE(NxNaturalOrder::sorted(names, descending), expected);
+    const Names names(list.begin(), list.end());
+    QCOMPARE(NxNaturalOrder::sorted(names, descending), plainlySorted(names, descending));
+}
+
+void tst_NxNaturalOrder::sortsListsOfAnyKindAndLength_data()
+{
+    using MakeNames = Names (*)(int count);
+    const std::pair<const char *, MakeNames> kinds[] = {
+        {"different names", differentNames},
+        {"many equal names", manyEqualNames},
+        {"names that begin alike", namesThatBeginAlike},
+        {"names of footage", namesOfFootage},
+    };
+    QTest::addColumn<Names>("names");
+    QTest::addColumn<bool>("descending");
+    for (const auto &[kind, make] : kinds) {
+        for (const int count : {0, 1, 2, 3, 31, 32, 33, 34, 1000, 49999, 50000}) {
+            const Names names = make(count);
+            QTest::addRow("%d %s, ascending", count, kind) << names << false;
+            QTest::addRow("%d %s, descending", count, kind) << names << true;
+        }
+    }
+}
+
+void tst_NxNaturalOrder::sortsListsOfAnyKindAndLength()
+{
+    QFETCH(Names, names);
+    QFETCH(bool, descending);
+    const std::vector<quint32> order = NxNaturalOrder::sorted(names, descending);
+    QCOMPARE(faultOfOrder(names, order, descending), QByteArray());
 }
 
 void tst_NxNaturalOrder::keepsTheOrderOfEqualNamesInBothDirections()

@@ -3,6 +3,7 @@
 #include <NxMediaLibrary/NxMediaDataModel/NxMediaItemFilter.h>
 
 #include "NxKeywordMatcher_p.h"
+#include "NxMediaAhead_p.h"
 
 #include <NxMediaLibrary/NxMediaLibraryUtils.h>
 #include <NxVBLModel/INxFolderMedia.h>
@@ -85,7 +86,9 @@ void NxMediaItemFilter::Filter(const QList<INxAbstractMedia *> &items,
     const NXMEDIALIBRARY::NxMediaItemViewFilter filter =
         m_filter ? *m_filter : NXMEDIALIBRARY::NxMediaItemViewFilter();
     const NxKeywordMatcher keyword(filter.keyword);
-    for (INxAbstractMedia *media : input) {
+    for (int i = 0; i < input.size(); ++i) {
+        nxFetchMediaAhead(input, i);
+        INxAbstractMedia *media = input.at(i);
         if (isReal(media) && accepts(media, filter, keyword))
             out.append(media);
     }

@@ -14,13 +14,7 @@
 class NxNaturalKeyWriter
 {
 public:
-    /// How many bytes an all-ASCII name of that length needs at most.
-    [[nodiscard]] static size_t asciiBound(int length) { return 6 * size_t(length) + 8; }
-    /// Writes an all-ASCII name; answers the size of the key, or -1 when the name is another, and
-    /// the bytes at out are then anything.
-    [[nodiscard]] int writeAscii(const QString &name, uchar *out);
-
-    /// Any name. The bytes stand until the next call.
+    /// The bytes stand until the next call.
     void write(const QString &name);
     [[nodiscard]] const uchar *data() const { return m_key.constData(); }
     [[nodiscard]] int size() const { return m_key.size(); }
@@ -42,7 +36,6 @@ private:
         NxNaturalAtom::Width width;
     };
 
-    [[nodiscard]] uchar *putMinorsBehind(uchar *out) const;
     void clear();
     void take(const NxNaturalAtom &atom);
     void takeDigit(const NxNaturalAtom &atom);

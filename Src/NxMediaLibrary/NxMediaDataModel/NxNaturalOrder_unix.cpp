@@ -2,154 +2,105 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include <NxMediaLibrary/NxMediaDataModel/NxNaturalOrder.h>
 
-#include "NxNaturalKeyWriter_p.h"
+#include "NxNaturalKeyBuffer_p.h"
+#include "NxNaturalRecordSorter_p.h"
+#include "NxNaturalRecord_p.h"
+#include "NxParallelParts.h"
 
 #include <algorithm>
 #include <cstring>
 #include <memory>
-#include <utility>
 
 namespace {
 
-// Keys in few blocks, written where they stay.
-class KeyArena
+using Record = NxNaturalRecord;
+using Sorter = NxNaturalRecordSorter;
+using Names = std::vector<QString>;
+
+constexpr size_t ManyNames = 50000; // Fewer are sorted before another thread is there to help.
+constexpr size_t Parts = 16; // More than threads, lest all wait for the one that is interrupted.
+constexpr size_t ReadAhead = 16;
+
+// The text of a name lies anywhere in memory: it is asked for some names before it is read.
+void readAhead(const QString &name)
+{
+    const auto *const text = reinterpret_cast<const char *>(const_cast<QString &>(name).data_ptr());
+    __builtin_prefetch(text);
+    __builtin_prefetch(text + 64);
+}
+
+class Sorting
 {
 public:
-    uchar *room(size_t size)
+    Sorting(const Names &names, bool descending)
+        : m_names(names),
+          m_flip(descending ? ~quint64(0) : 0),
+          m_parts(names.size() < ManyNames ? 1 : Parts),
+          m_makers(m_parts),
+          m_records(new Record[2 * names.size()])
+    {}
+
+    [[nodiscard]] std::vector<quint32> order()
     {
-        if (size_t(m_end - m_at) < size) {
-            m_blockSize = std::min(2 * m_blockSize, LargestBlock);
-            const size_t taken = std::max(m_blockSize, size);
-            m_blocks.emplace_back(new uchar[taken]);
-            m_at = m_blocks.back().get();
-            m_end = m_at + taken;
-        }
-        return m_at;
+        nxDoParts(m_parts, [this](size_t part) { makeRecords(part); });
+        sortRecords();
+        std::vector<quint32> order;
+        order.reserve(m_names.size());
+        for (size_t i = 0; i < m_names.size(); ++i)
+            order.push_back(m_records[i].index);
+        return order;
     }
-    void keep(size_t size) { m_at += size; }
 
 private:
-    static constexpr size_t LargestBlock = 1 << 20;
+    [[nodiscard]] size_t beginOf(size_t part) const { return m_names.size() * part / m_parts; }
 
-    size_t m_blockSize = 1 << 8; // Grows, so that a few names need little.
-    std::vector<std::unique_ptr<uchar[]>> m_blocks;
-    uchar *m_at = nullptr;
-    uchar *m_end = nullptr;
-};
-
-// Most comparisons end in the first eight bytes, without a look at the key itself.
-struct Record
-{
-    quint64 prefix;
-    const uchar *rest;
-    quint32 restSize;
-    quint32 index;
-};
-
-constexpr int PrefixSize = 8;
-
-Record makeRecord(const uchar *key, int size, quint32 index)
-{
-    quint64 prefix = 0;
-    for (int i = 0; i < PrefixSize; ++i)
-        prefix = (prefix << 8) | (i < size ? key[i] : 0);
-    return {prefix, key + std::min(size, PrefixSize), quint32(std::max(size - PrefixSize, 0)),
-            index};
-}
-
-int compareKeys(const Record &a, const Record &b)
-{
-    if (a.prefix != b.prefix)
-        return a.prefix < b.prefix ? -1 : 1;
-    const int byBytes = std::memcmp(a.rest, b.rest, std::min(a.restSize, b.restSize));
-    if (byBytes != 0)
-        return byBytes;
-    return a.restSize == b.restSize ? 0 : a.restSize < b.restSize ? -1 : 1;
-}
-
-using Records = std::vector<Record>;
-using Run = std::pair<Records::iterator, Records::iterator>;
-
-void sortByPrefix(const Run &run)
-{
-    std::sort(run.first, run.second, [](const Record &a, const Record &b) {
-        return a.prefix != b.prefix ? a.prefix < b.prefix : a.index < b.index;
-    });
-}
-
-// Puts the next bytes of the key in the place of the prefix; false when no key has any more.
-bool advance(const Run &run, quint64 flip)
-{
-    bool hasMore = false;
-    for (auto record = run.first; record != run.second; ++record) {
-        hasMore = hasMore || record->restSize > 0;
-        *record = makeRecord(record->rest, int(record->restSize), record->index);
-        record->prefix ^= flip;
-    }
-    return hasMore;
-}
-
-// Sorts by eight bytes at a time, so that each key is looked at once for each of its blocks and
-// not once for each comparison.
-void sortRecords(Records &records, quint64 flip)
-{
-    std::vector<Run> runs{{records.begin(), records.end()}};
-    while (!runs.empty()) {
-        const Run run = runs.back();
-        runs.pop_back();
-        sortByPrefix(run);
-        for (auto first = run.first; first != run.second;) {
-            const auto last = std::find_if(first, run.second, [first](const Record &record) {
-                return record.prefix != first->prefix;
-            });
-            if (last - first > 1 && advance({first, last}, flip))
-                runs.emplace_back(first, last);
-            first = last;
+    void makeRecords(size_t part)
+    {
+        const size_t end = beginOf(part + 1);
+        for (size_t i = beginOf(part); i < end; ++i) {
+            if (end - i > ReadAhead)
+                readAhead(m_names[i + ReadAhead]);
+            m_records[i] = m_makers[part].record(m_names[i], quint32(i));
+            m_records[i].word ^= m_flip;
         }
     }
-}
 
-Record recordOf(const QString &name, quint32 index, NxNaturalKeyWriter &writer, KeyArena &arena)
-{
-    uchar *key = arena.room(NxNaturalKeyWriter::asciiBound(name.size()));
-    int size = writer.writeAscii(name, key);
-    if (size < 0) {
-        writer.write(name);
-        size = writer.size();
-        key = arena.room(size_t(size));
-        std::copy_n(writer.data(), size, key);
+    void sortRecords()
+    {
+        Record *const first = m_records.get();
+        Record *const room = first + m_names.size();
+        Sorter sorter({first, room}, room, m_flip);
+        if (m_parts == 1) {
+            sorter.sort();
+            return;
+        }
+        const std::vector<Sorter::Run> runs = sorter.splitInto(m_names.size() / m_parts);
+        nxDoParts(runs.size(), [&](size_t i) {
+            Sorter(runs[i], room + (runs[i].first - first), m_flip).sort();
+        });
     }
-    arena.keep(size_t(size));
-    return makeRecord(key, size, index);
-}
+
+    const Names &m_names;
+    const quint64 m_flip;
+    const size_t m_parts;
+    std::vector<NxNaturalRecordMaker> m_makers;
+    const std::unique_ptr<Record[]> m_records; // And behind them as much room to sort in.
+};
 
 } // namespace
 
 int NxNaturalOrder::compare(const QString &a, const QString &b)
 {
-    KeyArena arena;
-    NxNaturalKeyWriter writer;
-    const Record first = recordOf(a, 0, writer, arena);
-    return compareKeys(first, recordOf(b, 0, writer, arena));
+    NxNaturalKeyBuffer first;
+    NxNaturalKeyBuffer second;
+    first.write(a);
+    second.write(b);
+    const int byBytes =
+        std::memcmp(first.data(), second.data(), size_t(std::min(first.size(), second.size())));
+    return byBytes != 0 ? byBytes : first.size() - second.size();
 }
 
 std::vector<quint32> NxNaturalOrder::sorted(const std::vector<QString> &names, bool descending)
 {
-    KeyArena arena;
-    NxNaturalKeyWriter writer;
-    Records records;
-    records.reserve(names.size());
-    for (const QString &name : names)
-        records.push_back(recordOf(name, quint32(records.size()), writer, arena));
-
-    const quint64 flip = descending ? ~quint64(0) : 0;
-    for (Record &record : records)
-        record.prefix ^= flip;
-    sortRecords(records, flip);
-
-    std::vector<quint32> order;
-    order.reserve(records.size());
-    for (const Record &record : records)
-        order.push_back(record.index);
-    return order;
+    return Sorting(names, descending).order();
 }

@@ -162,6 +162,16 @@ void NxEngineFolder::appendItems(QList<INxAbstractMedia *> *list, bool recursive
     }
 }
 
+INxAbstractMedia *NxEngineFolder::lastMedia(bool recursive) const
+{
+    for (auto child = m_children.rbegin(); recursive && child != m_children.rend(); ++child) {
+        INxAbstractMedia *last = (*child)->listsGuests() ? nullptr : (*child)->lastMedia(true);
+        if (last)
+            return last;
+    }
+    return m_items.empty() ? nullptr : m_items.back();
+}
+
 int NxEngineFolder::itemCount(bool recursive) const
 {
     int count = int(m_items.size());

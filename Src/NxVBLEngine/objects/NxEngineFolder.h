@@ -60,6 +60,7 @@ public:
     INxFolderMedia *parentFolder() const override { return m_parent; }
 
     QList<INxAbstractMedia *> items(bool recursive, bool mediaOnly) const override;
+    INxAbstractMedia *lastMedia(bool recursive) const override;
     bool containsMedia(const INxAbstractMedia *media, bool recursive) const override;
     INxAbstractMedia *findMedia(const QString &id, bool recursive) const override;
     INxAbstractMedia *findMediaByPath(const QString &path, bool recursive) const override;
