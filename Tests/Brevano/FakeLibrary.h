@@ -4,20 +4,78 @@
 
 #include <NxVBLModel/INxAbstractMediaItem.h>
 #include <NxVBLModel/INxFolderMedia.h>
+#include <NxVBLModel/INxFolderMediaManager.h>
+#include <NxVBLModel/INxMediaInfo.h>
+#include <NxVBLModel/NxStreamInfo.h>
 
 #include <memory>
 #include <vector>
 
-/// A media of a name and a path, without a file.
+/// What a file would tell.
+struct FakeInfo final : INxMediaInfo
+{
+    int kind() const override { return NXVBLMODEL::mikVideo; }
+    int streamFlags() const override { return flags; }
+    qint64 frameCount() const override { return frames; }
+    NxRational frameRate() const override { return rate; }
+    const NxVideoStreamInfo *videoStream() const override { return &video; }
+    const NxAudioStreamInfo *audioStream() const override { return &audio; }
+    const NxImageInfo *imageInfo() const override { return &image; }
+
+    int flags = NXVBLMODEL::sfVideo;
+    qint64 frames = 0;
+    NxRational rate;
+    NxVideoStreamInfo video;
+    NxAudioStreamInfo audio;
+    NxImageInfo image;
+};
+
+/// A media of a name and a path, without a file; it answers what a test wrote into it.
 class FakeItem final : public INxAbstractMediaItem
 {
 public:
     FakeItem(INxFolderMedia *folder, const QString &path) : m_folder(folder), m_path(path) {}
 
-    NXVBLMODEL::NxMediaType mediaType() const override { return NXVBLMODEL::mtVideoAudio; }
+    NXVBLMODEL::NxMediaType mediaType() const override { return type; }
+    int state() const override { return licence; }
     QString name() const override { return m_path.section(QLatin1Char('/'), -1); }
-    QString sourcePath() const override { return m_path; }
+    QString sourcePath() const override { return resource ? QString() : m_path; }
     INxFolderMedia *parentFolder() const override { return m_folder; }
+    bool isResource() const override { return resource; }
+    const INxMediaInfo *mediaInfo() const override { return &info; }
+    QDateTime dateCreated() const override { return created; }
+    QDateTime lastModified() const override { return modified; }
+    int usedCount() const override { return used; }
+    qint64 inPoint() const override { return in; }
+    qint64 outPoint() const override { return out; }
+    bool isFavourite() const override { return favourite; }
+    QDateTime favouriteTime() const override { return favoured; }
+    QDateTime downloadTime() const override { return downloaded; }
+    QString audioInfoText() const override { return sound; }
+    QString categoryName() const override { return category; }
+    QString cameraName() const override { return camera; }
+    int listOrder() const override { return place; }
+    int sale() const override { return sold; }
+    qint64 sourceSize() const override { return size; }
+
+    NXVBLMODEL::NxMediaType type = NXVBLMODEL::mtVideoAudio;
+    int licence = NXVBLMODEL::lsNone;
+    bool resource = false;
+    FakeInfo info;
+    QDateTime created;
+    QDateTime modified;
+    int used = 0;
+    qint64 in = 0;
+    qint64 out = 0;
+    bool favourite = false;
+    QDateTime favoured;
+    QDateTime downloaded;
+    QString sound;
+    QString category;
+    QString camera;
+    int place = 0;
+    int sold = 0;
+    qint64 size = -1;
 
 private:
     INxFolderMedia *const m_folder; // Not owned.
@@ -36,9 +94,9 @@ public:
     {
     }
 
-    FakeFolder *addFolder(const QString &name)
+    FakeFolder *addFolder(const QString &name, int kind = NXVBLMODEL::fkNone)
     {
-        m_children.push_back(std::make_unique<FakeFolder>(name, NXVBLMODEL::fkNone, this));
+        m_children.push_back(std::make_unique<FakeFolder>(name, kind, this));
         return m_children.back().get();
     }
     FakeItem *addItem(const QString &path)
@@ -51,11 +109,27 @@ public:
     int kind() const override { return m_kind; }
     bool isKind(int folderKind) const override { return folderKind == m_kind; }
     int folderId() const override { return m_kind; }
-    int depth() const override { return m_parent ? m_parent->depth() + 1 : 1; }
+    /// A folder without a parent is a section, and so is what stands in a root.
+    bool isRoot() const { return m_kind == rootKind; }
+    static constexpr int rootKind = -1;
+    int depth() const override
+    {
+        if (isRoot())
+            return 0;
+        return m_parent ? m_parent->depth() + 1 : 1;
+    }
     INxFolderMedia *parentFolder() const override { return m_parent; }
     INxFolderMedia *owner() const override
     {
-        return m_parent ? m_parent->owner() : const_cast<FakeFolder *>(this);
+        const bool isSection = !m_parent || m_parent->isRoot();
+        return isSection ? const_cast<FakeFolder *>(this) : m_parent->owner();
+    }
+    QList<INxFolderMedia *> childFolders() const override
+    {
+        QList<INxFolderMedia *> folders;
+        for (const auto &child : m_children)
+            folders.append(child.get());
+        return folders;
     }
     QList<INxAbstractMedia *> items(bool recursive, bool) const override
     {
@@ -82,4 +156,17 @@ private:
     FakeFolder *const m_parent;
     std::vector<std::unique_ptr<FakeFolder>> m_children;
     std::vector<std::unique_ptr<FakeItem>> m_items;
+};
+
+/// The folders of a category, made by the test.
+class FakeFolders final : public INxFolderMediaManager
+{
+public:
+    INxFolderMedia *rootFolder() override { return &root; }
+    INxFolderMedia *folder(int folderId) override
+    {
+        return folderId == NXVBLMODEL::fidRoot ? root.childFolders().value(0) : nullptr;
+    }
+
+    FakeFolder root{QString(), FakeFolder::rootKind};
 };

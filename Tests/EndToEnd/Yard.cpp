@@ -36,10 +36,23 @@ ProgramResult Yard::run(const char *command, const QStringList &rest) const
 
 QVector<QJsonObject> Yard::listed(const QStringList &rest) const
 {
-    const ProgramResult result = run("list", QStringList{QStringLiteral("--json")} + rest);
+    const QStringList words{QStringLiteral("--json"), QStringLiteral("--sort=none"),
+                            QStringLiteral("--group=none")};
+    const ProgramResult result = run("list", words + rest);
     if (result.code != 0)
         QTest::qFail(result.story().constData(), __FILE__, __LINE__);
-    return result.objects();
+    return mediaOf(result);
+}
+
+QVector<QJsonObject> Yard::mediaOf(const ProgramResult &list)
+{
+    QVector<QJsonObject> media;
+    const QVector<QJsonObject> rows = list.objects();
+    for (const QJsonObject &row : rows) {
+        if (row.value(QLatin1String("kind")) == QLatin1String("media"))
+            media.append(row);
+    }
+    return media;
 }
 
 QStringList Yard::shown(const QStringList &rest) const

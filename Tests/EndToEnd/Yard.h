@@ -26,8 +26,10 @@ public:
 
     /// Runs "brevano <command> <this project> <rest>" from the yard's folder.
     ProgramResult run(const char *command, const QStringList &rest = {}) const;
-    /// `list --json`, which must end with 0: the objects.
+    /// What `list --json` says of the media in the order of their folders; it must end with 0.
     [[nodiscard]] QVector<QJsonObject> listed(const QStringList &rest = {}) const;
+    /// The rows of a `list --json` that are media.
+    [[nodiscard]] static QVector<QJsonObject> mediaOf(const ProgramResult &list);
     /// The same as texts: "Holiday/Day 1: clip.mp4" for each media, in their order.
     [[nodiscard]] QStringList shown(const QStringList &rest = {}) const;
     /// The paths of all media.

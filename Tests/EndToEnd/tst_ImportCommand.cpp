@@ -271,7 +271,7 @@ void tst_ImportCommand::oddNamesArriveAsTheyAre()
     QCOMPARE(m_yard->paths(), QStringList{path});
 
     const ProgramResult table = m_yard->run("list");
-    QCOMPARE(table.lines().size(), 3); // Titles, the file, the sums.
+    QCOMPARE(table.lines().size(), 4); // Titles, the tile, the file, the sums.
     QVERIFY(!table.output.contains('\x1b'));
 
     VERIFY_CODE(

@@ -54,11 +54,13 @@ void tst_LookCommands::everyRowHasItsKeysInOrder()
     VERIFY_CODE(m_yard->run("import", {m_yard->footage(QStringLiteral("Day \"1\""))}), 0);
     const ProgramResult result = m_yard->run("list", {QStringLiteral("--json")});
     VERIFY_CODE(result, 0);
-    QCOMPARE(result.lines().size(), 1);
-    const QByteArray line = result.lines().constFirst();
+    QCOMPARE(result.lines().size(), 2);
+    QCOMPARE(result.lines().at(0),
+             QByteArray(R"({"row":0,"kind":"import","title":"Import Media"})"));
+    const QByteArray line = result.lines().at(1);
     QByteArray escapedPath = clip.toUtf8();
     escapedPath.replace('"', "\\\"");
-    const QByteArray begin = R"({"row":0,"kind":"media","title":"a.mp4","name":"a.mp4","path":")"
+    const QByteArray begin = R"({"row":1,"kind":"media","title":"a.mp4","name":"a.mp4","path":")"
                              + escapedPath
                              + R"(","section":"project","folder":"Day \"1\"","type":"video",)"
                              + R"("size":3,"created":")";
@@ -68,8 +70,7 @@ void tst_LookCommands::everyRowHasItsKeysInOrder()
         R"("width":null,"height":null,"rotation":null,"codec":null,"sample_rate":null,)"
         R"("channels":null,"camera":null,"timecode":null,"variable_rate":null})";
     QVERIFY2(line.endsWith(end), line.constData());
-    const QString created =
-        result.objects().constFirst().value(QLatin1String("created")).toString();
+    const QString created = result.objects().constLast().value(QLatin1String("created")).toString();
     QVERIFY2(QDateTime::fromString(created, Qt::ISODateWithMs).isValid(), qPrintable(created));
 }
 
@@ -123,14 +124,15 @@ void tst_LookCommands::theTableIsAlignedAndSummedUp()
     const ProgramResult result = m_yard->run("list");
     VERIFY_CODE(result, 0);
     const QList<QByteArray> lines = result.lines();
-    QCOMPARE(lines.size(), 4);
+    QCOMPARE(lines.size(), 5);
     QVERIFY2(lines.at(0).startsWith("Folder       Name           Type   "),
              lines.at(0).constData());
-    QVERIFY2(lines.at(1).startsWith("footage      long name.mp4  video  "),
-             lines.at(1).constData());
+    QCOMPARE(lines.at(1), QByteArray("[Import Media]"));
     QVERIFY2(lines.at(2).startsWith("footage/Day  b.wav          audio  "),
              lines.at(2).constData());
-    QCOMPARE(lines.at(3), QByteArray("2 media in 2 folders, 2.0 KiB"));
+    QVERIFY2(lines.at(3).startsWith("footage      long name.mp4  video  "),
+             lines.at(3).constData());
+    QCOMPARE(lines.at(4), QByteArray("2 media in 2 folders, 2.0 KiB"));
 }
 
 void tst_LookCommands::anEmptyProjectIsAnEmptyList()

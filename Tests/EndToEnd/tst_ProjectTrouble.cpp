@@ -258,8 +258,9 @@ void tst_ProjectTrouble::aDamagedProjectShowsWhatCanBeRead()
     const ProgramResult list = m_yard->run("list", {QStringLiteral("--json")});
     VERIFY_CODE(list, 3);
     QVERIFY2(list.said("Film.brevano: is damaged"), list.story().constData());
-    QVERIFY(!list.lines().isEmpty());
-    QVERIFY(list.lines().size() < all);
+    const int shown = Yard::mediaOf(list).size();
+    QVERIFY(shown > 0);
+    QVERIFY(shown < all);
 
     const ProgramResult check = m_yard->run("check", {QStringLiteral("--json")});
     VERIFY_CODE(check, 3);

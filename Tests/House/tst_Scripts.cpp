@@ -71,8 +71,8 @@ private Q_SLOTS:
 void tst_Scripts::scriptsAreReadByBash_data()
 {
     QTest::addColumn<QString>("script");
-    for (const char *script :
-         {"run", "check", ".ci/run", "Packaging/setup.sh", "Packaging/make-samples"})
+    for (const char *script : {"run", "check", ".ci/run", "Packaging/setup.sh",
+                               "Packaging/make-listing", "Packaging/make-samples"})
         QTest::newRow(script) << QString::fromLatin1(script);
 }
 
@@ -90,7 +90,8 @@ void tst_Scripts::scriptsAreReadByBash()
 void tst_Scripts::commandsAreExecutable_data()
 {
     QTest::addColumn<QString>("script");
-    for (const char *script : {"run", "check", ".ci/run", "Packaging/make-samples"})
+    for (const char *script :
+         {"run", "check", ".ci/run", "Packaging/make-listing", "Packaging/make-samples"})
         QTest::newRow(script) << QString::fromLatin1(script);
 }
 

@@ -12,18 +12,25 @@ QString optionText(const CommandOption &option)
     return option.valueName ? name + QLatin1Char(' ') + QLatin1String(option.valueName) : name;
 }
 
-/// A synopsis shows the options that it does not name itself as ones that may be left out.
-QString form(const CommandEntry &entry, const char *synopsis)
+/// A synopsis shows the options that it does not name itself as ones that may be left out. What
+/// does not fit into a line goes on below the first word after the command.
+QStringList form(const CommandEntry &entry, const char *synopsis)
 {
-    QString text =
-        QStringLiteral("brevano %1 %2").arg(QLatin1String(entry.name), QLatin1String(synopsis));
+    constexpr int width = 100;
+    const QString command = QStringLiteral("  brevano %1 ").arg(QLatin1String(entry.name));
+    QStringList lines{command + QLatin1String(synopsis)};
     for (const CommandOption &option : entry.options) {
         const bool isFolderOfOtherForm =
             entry.synopses.size() > 1 && option.name == CommandOptions::folder.name;
-        if (!text.contains(QLatin1String(option.name)) && !isFolderOfOtherForm)
-            text += QStringLiteral(" [%1]").arg(optionText(option));
+        if (QLatin1String(synopsis).contains(QLatin1String(option.name)) || isFolderOfOtherForm)
+            continue;
+        const QString part = QStringLiteral("[%1]").arg(optionText(option));
+        if (lines.constLast().size() + 1 + part.size() > width)
+            lines.append(QString(command.size(), QLatin1Char(' ')) + part);
+        else
+            lines.last() += QLatin1Char(' ') + part;
     }
-    return text;
+    return lines;
 }
 
 QStringList exitCodes()
@@ -42,7 +49,7 @@ QStringList CommandHelp::overview()
     QStringList lines{QStringLiteral("Usage:")};
     for (const CommandEntry &entry : CommandTable::entries()) {
         for (const char *synopsis : entry.synopses)
-            lines.append(QLatin1String("  ") + form(entry, synopsis));
+            lines += form(entry, synopsis);
     }
     lines += {
         QStringLiteral("  brevano help COMMAND"),
@@ -62,7 +69,7 @@ QStringList CommandHelp::of(const CommandEntry &entry)
 {
     QStringList lines{QStringLiteral("Usage:")};
     for (const char *synopsis : entry.synopses)
-        lines.append(QLatin1String("  ") + form(entry, synopsis));
+        lines += form(entry, synopsis);
     lines.append(QString());
     lines += QString::fromLatin1(entry.help).split(QLatin1Char('\n'));
     if (!entry.options.isEmpty())

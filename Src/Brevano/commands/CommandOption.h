@@ -19,6 +19,14 @@ constexpr CommandOption into{"--into", "FOLDER", "the folder that takes them"};
 constexpr CommandOption folder{"--folder", "FOLDER", "the folder that is meant"};
 constexpr CommandOption section{"--section", "SECTION",
                                 "where folders are: \"project\" (without it) or \"shared\""};
+constexpr CommandOption category{"--category", "N", "what the panel shows: 0 (media) to 10"};
+constexpr CommandOption sort{"--sort", "KEY", "what the rows are sorted by"};
+constexpr CommandOption desc{"--desc", nullptr, "sorted the other way round"};
+constexpr CommandOption group{"--group", "KEY", "what the rows are put together by"};
+constexpr CommandOption groupDesc{"--group-desc", nullptr, "groups the other way round"};
+constexpr CommandOption type{"--type", "VALUE", "only what is of this type or licence"};
+constexpr CommandOption search{"--search", "TEXT", "only names with this text"};
+constexpr CommandOption columns{"--columns", nullptr, "with the columns of the list view"};
 constexpr CommandOption json{"--json", nullptr, "one JSON object a line"};
 constexpr CommandOption help{"--help", nullptr, "how the command is used"};
 

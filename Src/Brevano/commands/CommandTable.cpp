@@ -47,8 +47,13 @@ const QVector<CommandEntry> table{
      make<ImportCommand>},
     {"list",
      {"PROJECT"},
-     "Lists the media of a project, those of all its folders or of one.",
-     {folder, section, json},
+     "Lists what the panel shows of a project, of all its folders or of one: media, headers of\n"
+     "groups, and the tile that imports. What is not said is as the user chose it last.\n"
+     "Keys to sort by: none, name, duration, datecreated, used, framerate, inpoint, outpoint,\n"
+     "favourite, favouritetime, downloadtime, resolution, audioinfo, type, new, category,\n"
+     "listorder, sale. Keys to group by: none, type, datecreated, duration, cameraname, category.\n"
+     "Types: all, video, photo, audio, subtitle, premium, standard, free, paid.",
+     {folder, section, category, sort, desc, group, groupDesc, type, search, columns, json},
      1,
      1,
      make<ListCommand>},

@@ -3,28 +3,17 @@
 #pragma once
 
 #include <Brevano/commands/Command.h>
-#include <NxCore/NxResult.h>
 
-#include <QList>
-#include <QVector>
+class ListedRows;
+struct ViewChoice;
 
-class INxAbstractMediaItem;
-class INxFolderMedia;
-class ProjectSession;
-
-/// Lists the media of a project, in the order of its folders.
+/// Lists what the panel shows of a project: media, group headers and tiles.
 class ListCommand final : public Command
 {
 public:
     int run(const CommandLine &line, Console *console) override;
 
 private:
-    using Media = QVector<const INxAbstractMediaItem *>;
-
-    [[nodiscard]] static NxResult<QList<INxFolderMedia *>> listedFolders(
-        const ProjectSession &session, const CommandLine &line);
-    [[nodiscard]] static Media mediaOf(const QList<INxFolderMedia *> &folders);
-    static void printJson(const Media &media, Console *console);
-    static void printTable(const Media &media, Console *console);
-    [[nodiscard]] static QString sums(const Media &media);
+    static void print(const ListedRows &rows, const ViewChoice &choice, const CommandLine &line,
+                      Console *console);
 };

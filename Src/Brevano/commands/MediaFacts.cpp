@@ -6,6 +6,7 @@
 #include <Brevano/commands/Sections.h>
 #include <NxCore/NxConvertUtility.h>
 #include <NxCore/NxFile.h>
+#include <NxMediaLibrary/NxMediaLibraryUtils.h>
 #include <NxVBLModel/INxAbstractMediaItem.h>
 #include <NxVBLModel/INxFolderMedia.h>
 #include <NxVBLModel/INxMediaInfo.h>
@@ -26,8 +27,17 @@ struct TypeWord
 };
 
 constexpr TypeWord typeWords[] = {
-    {mtVideo, "video"}, {mtVideoAudio, "video"}, {mtAudio, "audio"},
-    {mtImage, "image"}, {mtElement, "gif"},      {mtSubtitle, "subtitle"},
+    {mtVideo, "video"},
+    {mtVideoAudio, "video"},
+    {mtAudio, "audio"},
+    {mtImage, "image"},
+    {mtTitle, "title"},
+    {mtTransition, "transition"},
+    {mtEffect, "effect"},
+    {mtSplitScreen, "split screen"},
+    {mtElement, "element"},
+    {mtSubtitle, "subtitle"},
+    {mtProjectTemplate, "template"},
 };
 
 /// The facts of a file, or neutral ones while it was not read.
@@ -74,6 +84,8 @@ QString rateText(const NxRational &rate)
 
 QString MediaFacts::typeWord(const INxAbstractMediaItem &media)
 {
+    if (NxMediaLibraryUtils::isGif(&media))
+        return QStringLiteral("gif");
     const auto known =
         std::find_if(std::begin(typeWords), std::end(typeWords),
                      [&media](const TypeWord &entry) { return entry.type == media.mediaType(); });
@@ -89,12 +101,15 @@ QString MediaFacts::folder(const INxAbstractMediaItem &media)
 QString MediaFacts::section(const INxAbstractMediaItem &media)
 {
     const INxFolderMedia *parent = media.parentFolder();
-    return Sections::wordOf(parent ? parent->owner() : nullptr);
+    const INxFolderMedia *section = parent ? parent->owner() : nullptr;
+    const QString word = Sections::wordOf(section);
+    return word.isEmpty() && section ? section->name() : word;
 }
 
 bool MediaFacts::isMissing(const INxAbstractMediaItem &media)
 {
-    return !NxFile::exists(media.sourcePath());
+    const bool needsFile = !media.isResource() || !media.sourcePath().isEmpty();
+    return needsFile && !NxFile::exists(media.sourcePath());
 }
 
 QString MediaFacts::unreadableReason(const INxAbstractMediaItem &media)
@@ -105,7 +120,7 @@ QString MediaFacts::unreadableReason(const INxAbstractMediaItem &media)
 void MediaFacts::addIdentity(JsonLine *line, const INxAbstractMediaItem &media)
 {
     line->addText("name", media.name());
-    line->addText("path", media.sourcePath());
+    line->addTextOrNull("path", media.sourcePath());
     line->addText("section", section(media));
     line->addText("folder", folder(media));
     line->addText("type", typeWord(media));

@@ -10,13 +10,14 @@ class JsonLine;
 /// What a listing tells about a media.
 namespace MediaFacts {
 
-/// "video", "audio", "image", "gif", "subtitle" or "other".
+/// "video", "audio", "image", "gif", "subtitle"; a resource may also be a "title", "transition",
+/// "effect", "split screen", "element" or "template"; else "other".
 [[nodiscard]] QString typeWord(const INxAbstractMediaItem &media);
 /// Path of the folder that holds it, from the section down; empty for the section itself.
 [[nodiscard]] QString folder(const INxAbstractMediaItem &media);
-/// "project" or "shared".
+/// "project" or "shared"; the section's name for resources.
 [[nodiscard]] QString section(const INxAbstractMediaItem &media);
-/// Whether the file was not there when it was last looked for.
+/// Whether the file was not there when it was last looked for. A resource needs none.
 [[nodiscard]] bool isMissing(const INxAbstractMediaItem &media);
 /// Why the file, which is there, cannot be read; empty when it can, or was not looked at.
 [[nodiscard]] QString unreadableReason(const INxAbstractMediaItem &media);

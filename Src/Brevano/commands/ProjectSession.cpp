@@ -132,14 +132,14 @@ INxUndoStack *ProjectSession::undoStack() const
     return m_project->undoStack();
 }
 
-INxMediaManager *ProjectSession::manager() const
+INxMediaManager *ProjectSession::manager(NXVBLMODEL::NxMediaCategoryType category) const
 {
-    return m_project->mediaLibrary()->mediaManager(NXVBLMODEL::mctMedia);
+    return m_project->mediaLibrary()->mediaManager(category);
 }
 
-INxFolderMediaManager *ProjectSession::folders() const
+INxFolderMediaManager *ProjectSession::folders(NXVBLMODEL::NxMediaCategoryType category) const
 {
-    return manager()->folderManager();
+    return manager(category)->folderManager();
 }
 
 INxMediaItemManager *ProjectSession::items() const

@@ -5,6 +5,7 @@
 #include <Brevano/commands/ProgramArgument.h>
 #include <NxVBLEngine/NxEmbeddedEngine.h>
 #include <NxVBLModel/NxMediaEngineDoor.h>
+#include <NxVBLModel/NxMediaTypes.h>
 
 #include <QList>
 
@@ -46,7 +47,9 @@ public:
     [[nodiscard]] NxEmbeddedEngine &engine() { return m_engine; }
     [[nodiscard]] INxProject *project() const { return m_project; }
     [[nodiscard]] INxUndoStack *undoStack() const;
-    [[nodiscard]] INxFolderMediaManager *folders() const;
+    /// Those of a category.
+    [[nodiscard]] INxFolderMediaManager *folders(
+        NXVBLMODEL::NxMediaCategoryType category = NXVBLMODEL::mctMedia) const;
     [[nodiscard]] INxMediaItemManager *items() const;
     [[nodiscard]] INxMediaImporter *importer() const;
     /// The sections in their order.
@@ -58,7 +61,8 @@ private:
     [[nodiscard]] bool isUsablePath(const ProgramArgument &project);
     [[nodiscard]] bool take(const NxResult<INxProject *> &opened);
     [[nodiscard]] bool canChange();
-    [[nodiscard]] INxMediaManager *manager() const;
+    [[nodiscard]] INxMediaManager *manager(
+        NXVBLMODEL::NxMediaCategoryType category = NXVBLMODEL::mctMedia) const;
 
     Console *const m_console; // Not owned.
     NxEmbeddedEngine m_engine;

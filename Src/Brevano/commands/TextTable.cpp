@@ -19,7 +19,12 @@ void TextTable::addRow(const QStringList &cells)
         shown.append(ShownText::oneLine(cells.at(i)));
         m_columns[i].width = std::max(m_columns.at(i).width, ShownText::columns(shown.constLast()));
     }
-    m_rows.append(shown);
+    m_rows.append({shown, false});
+}
+
+void TextTable::addLine(const QString &text)
+{
+    m_rows.append({{ShownText::oneLine(text)}, true});
 }
 
 QStringList TextTable::lines() const
@@ -28,8 +33,8 @@ QStringList TextTable::lines() const
     for (const Column &column : m_columns)
         titles.append(column.title);
     QStringList result{line(titles)};
-    for (const QStringList &row : m_rows)
-        result.append(line(row));
+    for (const Row &row : m_rows)
+        result.append(row.isAcross ? row.cells.constFirst() : line(row.cells));
     return result;
 }
 

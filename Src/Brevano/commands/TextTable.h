@@ -5,7 +5,8 @@
 #include <QStringList>
 #include <QVector>
 
-/// Rows of texts in aligned columns, for a terminal. The last column is not padded.
+/// Rows of texts in aligned columns, and lines among them, for a terminal. The last column is not
+/// padded.
 class TextTable
 {
 public:
@@ -14,7 +15,9 @@ public:
     void addColumn(const QString &title, Align align = Align::Left);
     /// One text for each column; each is shown on one line.
     void addRow(const QStringList &cells);
-    /// The titles and the rows.
+    /// A text that stands across the columns and makes none of them wider.
+    void addLine(const QString &text);
+    /// The titles, then the rows and lines in the order in which they were added.
     [[nodiscard]] QStringList lines() const;
 
 private:
@@ -24,8 +27,13 @@ private:
         Align align;
         int width;
     };
+    struct Row
+    {
+        QStringList cells;
+        bool isAcross;
+    };
     [[nodiscard]] QString line(const QStringList &cells) const;
 
     QVector<Column> m_columns;
-    QVector<QStringList> m_rows;
+    QVector<Row> m_rows;
 };
