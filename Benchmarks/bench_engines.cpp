@@ -6,12 +6,11 @@
 #include <NxVBLModel/INxGroupMedia.h>
 #include <NxVBLModel/INxMediaInfo.h>
 
-#include <benchmark/benchmark.h>
+#include "SortBound.h"
 
 #include <QRandomGenerator>
 
 #include <algorithm>
-#include <chrono>
 #include <memory>
 #include <random>
 #include <vector>
@@ -22,7 +21,7 @@ namespace {
 
 using namespace NXMEDIALIBRARY;
 using Items = QList<INxAbstractMedia *>;
-using Clock = std::chrono::steady_clock;
+using namespace SortBound;
 
 struct Info final : INxMediaInfo
 {
@@ -55,24 +54,6 @@ struct Item final : INxAbstractMediaItem
     QString category;
 };
 
-QString nameOf(int number, QRandomGenerator &random)
-{
-    const int place = random.bounded(100);
-    const QString digits = QStringLiteral("%1").arg(random.bounded(10000), 4, 10, QLatin1Char('0'));
-    if (place < 18)
-        return QStringLiteral("IMG_") + digits + QStringLiteral(".JPG");
-    if (place < 34)
-        return QStringLiteral("GX01") + digits + QStringLiteral(".MP4");
-    if (place < 60)
-        return QStringLiteral("Scene %1 take %2.mov").arg(random.bounded(200)).arg(number % 30);
-    if (place < 90)
-        return QStringLiteral("2024-%1-%2 clip %3")
-            .arg(random.bounded(1, 13))
-            .arg(random.bounded(1, 29))
-            .arg(number);
-    return QString::fromUtf8("Müller Straße %1").arg(random.bounded(5000));
-}
-
 std::vector<std::unique_ptr<Item>> makeItems(int count)
 {
     QRandomGenerator random(1);
@@ -102,41 +83,6 @@ Items listOf(const std::vector<std::unique_ptr<Item>> &items, bool scattered)
     return list;
 }
 
-double secondsOf(Clock::time_point begin)
-{
-    return std::chrono::duration<double>(Clock::now() - begin).count();
-}
-
-double boundOnce(int count)
-{
-    std::vector<quint64> numbers(static_cast<size_t>(count));
-    std::mt19937_64 random(static_cast<quint64>(count));
-    for (quint64 &number : numbers)
-        number = random();
-    const Clock::time_point begin = Clock::now();
-    std::sort(numbers.begin(), numbers.end());
-    benchmark::DoNotOptimize(numbers.data());
-    return secondsOf(begin);
-}
-
-template<typename Work>
-void measure(benchmark::State &state, int count, Work work)
-{
-    std::vector<double> bounds;
-    std::vector<double> times;
-    for (auto turn : state) {
-        Q_UNUSED(turn)
-        bounds.push_back(boundOnce(count));
-        times.push_back(work());
-        state.SetIterationTime(times.back());
-    }
-    const auto median = [](std::vector<double> &values) {
-        std::nth_element(values.begin(), values.begin() + qint64(values.size() / 2), values.end());
-        return values[values.size() / 2];
-    };
-    state.counters["times_S"] = median(times) / median(bounds);
-}
-
 void sortItems(benchmark::State &state, int key, bool scattered)
 {
     const int count = int(state.range(0));
@@ -164,12 +110,6 @@ void groupItems(benchmark::State &state, int key, bool scattered)
             INxGroupMedia::releaseGroup(dynamic_cast<INxGroupMedia *>(group));
         return seconds;
     });
-}
-
-void sized(benchmark::internal::Benchmark *bench)
-{
-    bench->Arg(1000)->Arg(10000)->Arg(100000)->Arg(1000000)->UseManualTime()->Iterations(7)->Unit(
-        benchmark::kMillisecond);
 }
 
 } // namespace
