@@ -164,6 +164,8 @@ private Q_SLOTS:
     void keepsTheInputOrderWithinAGroup();
     void makesOneGroupADay();
     void cutsDaysInLocalTime();
+    void midnightBeginsItsDay_data();
+    void midnightBeginsItsDay();
     void findsDaysAsTheCalendarDoes_data();
     void findsDaysAsTheCalendarDoes();
     void makesOneGroupACamera();
@@ -379,6 +381,31 @@ void tst_NxMediaItemGroup::cutsDaysInLocalTime()
     QCOMPARE(groups.titles(), QStringList{QStringLiteral("2024/06/30")});
 }
 
+void tst_NxMediaItemGroup::midnightBeginsItsDay_data()
+{
+    QTest::addColumn<QDate>("first");
+    QTest::newRow("when the clocks go forward") << QDate(2024, 3, 28);
+    QTest::newRow("when the clocks go back") << QDate(2024, 10, 24);
+    QTest::newRow("when the clocks stay") << QDate(2024, 6, 27);
+}
+
+void tst_NxMediaItemGroup::midnightBeginsItsDay()
+{
+    QFETCH(QDate, first);
+    const Zone zone("Europe/Berlin");
+    std::array<ScriptedItem, 8> items;
+    Items list;
+    QStringList days;
+    for (int i = 0; i < int(items.size()); ++i) {
+        items[size_t(i)].created = QDateTime(first.addDays(i), QTime(0, 0));
+        list.append(&items[size_t(i)]);
+        days.append(first.addDays(i).toString(QStringLiteral("yyyy/MM/dd")));
+    }
+    Groups groups;
+    groups.make(list, gbDateCreated);
+    QCOMPARE(groups.titles(), days);
+}
+
 void tst_NxMediaItemGroup::findsDaysAsTheCalendarDoes_data()
 {
     QTest::addColumn<QByteArray>("zone");
@@ -425,14 +452,15 @@ void makesOneGroupAText(int key, QString ScriptedItem::*text)
     items[1].*text = QStringLiteral("cam 9");
     items[3].*text = QStringLiteral("Cam 10");
     items[4].*text = QStringLiteral("CAM 10");
+    items[5].*text = QStringLiteral(""); // Empty, though not null.
     ScriptedPlain folder(NXVBLMODEL::mtFolder);
-    const Items list{&items[0], &items[1], &items[2], &items[3], &items[4], &folder};
+    const Items list{&items[0], &items[1], &items[2], &items[3], &items[4], &items[5], &folder};
     Groups groups;
     groups.make(list, key);
     QCOMPARE(groups.titles(), (QStringList{QStringLiteral("cam 9"), QStringLiteral("Cam 10"),
                                            QStringLiteral("CAM 10"), QStringLiteral("None")}));
     QCOMPARE(groups.members(QStringLiteral("Cam 10")), (Items{&items[0], &items[3]}));
-    QCOMPARE(groups.members(QStringLiteral("None")), (Items{&items[2], &folder}));
+    QCOMPARE(groups.members(QStringLiteral("None")), (Items{&items[2], &items[5], &folder}));
     groups.make(list, key, soDESC);
     QCOMPARE(groups.titles(), (QStringList{QStringLiteral("Cam 10"), QStringLiteral("CAM 10"),
                                            QStringLiteral("cam 9"), QStringLiteral("None")}));

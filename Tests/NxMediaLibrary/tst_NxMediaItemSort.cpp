@@ -137,6 +137,7 @@ private Q_SLOTS:
     void comparesByItsKey();
     void keepsTheOrderOfEqualMedia_data();
     void keepsTheOrderOfEqualMedia();
+    void takesEveryRateOfZeroForEqual();
     void putsWhatIsNoItemWhereNothingIsKnown_data();
     void putsWhatIsNoItemWhereNothingIsKnown();
     void copiesExactlyWithoutAKey_data();
@@ -298,6 +299,20 @@ void tst_NxMediaItemSort::keepsTheOrderOfEqualMedia()
     for (ScriptedItem &item : items)
         list.prepend(&item);
     QCOMPARE(sorted(list, by(key, order)), list);
+}
+
+void tst_NxMediaItemSort::takesEveryRateOfZeroForEqual()
+{
+    std::array<ScriptedItem, 3> items;
+    items[0].info.rate = {0, 1};
+    items[1].info.rate = {0, -1}; // Divides to a negative zero.
+    items[2].info.rate = {0, 0};
+    const Items list{&items[0], &items[1], &items[2]};
+    const Items reversed{&items[2], &items[1], &items[0]};
+    for (const int order : {int(soASC), int(soDESC)}) {
+        QCOMPARE(sorted(list, by(sbFrameRate, order)), list);
+        QCOMPARE(sorted(reversed, by(sbFrameRate, order)), reversed);
+    }
 }
 
 void tst_NxMediaItemSort::putsWhatIsNoItemWhereNothingIsKnown_data()

@@ -486,7 +486,7 @@ void tst_NxNaturalOrder::sortsListsOfAnyKindAndLength_data()
     QTest::addColumn<Names>("names");
     QTest::addColumn<bool>("descending");
     for (const auto &[kind, make] : kinds) {
-        for (const int count : {0, 1, 2, 3, 31, 32, 33, 34, 1000, 49999, 50000}) {
+        for (const int count : {0, 1, 2, 3, 31, 32, 33, 34, 1000, 20000}) {
             const Names names = make(count);
             QTest::addRow("%d %s, ascending", count, kind) << names << false;
             QTest::addRow("%d %s, descending", count, kind) << names << true;

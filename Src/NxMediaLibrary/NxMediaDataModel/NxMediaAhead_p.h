@@ -7,7 +7,8 @@
 class INxAbstractMedia;
 
 /// Asks the processor for the media that come next in a list: a walk over many that lie scattered
-/// in memory then does not wait for each of them.
+/// in memory then does not wait for each of them. Always inline: as a function without effects its
+/// calls would be left out.
 Q_ALWAYS_INLINE void nxFetchMediaAhead(const QList<INxAbstractMedia *> &media, int at)
 {
 #if defined(__GNUC__)

@@ -27,19 +27,6 @@ NxNaturalRecordSorter::NxNaturalRecordSorter(const Run &all, Record *room, quint
     push(all);
 }
 
-std::vector<NxNaturalRecordSorter::Run> NxNaturalRecordSorter::splitInto(size_t most)
-{
-    std::vector<Run> left;
-    while (!m_open.empty()) {
-        const Run run = pop();
-        if (run.size() <= most)
-            left.push_back(run);
-        else
-            sortStep(run);
-    }
-    return left;
-}
-
 void NxNaturalRecordSorter::sort()
 {
     while (!m_open.empty())

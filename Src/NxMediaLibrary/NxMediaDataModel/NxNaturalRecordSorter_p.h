@@ -26,9 +26,6 @@ public:
     /// bits of flip inverted, as the first word was by the caller.
     NxNaturalRecordSorter(const Run &all, NxNaturalRecord *room, quint64 flip);
 
-    /// Sorts so far that no run that is still to be sorted is longer than most, and answers those.
-    /// Runs have no record in common: each may be sorted on a thread of its own.
-    [[nodiscard]] std::vector<Run> splitInto(size_t most);
     void sort();
 
 private:
