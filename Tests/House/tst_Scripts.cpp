@@ -71,8 +71,9 @@ private Q_SLOTS:
 void tst_Scripts::scriptsAreReadByBash_data()
 {
     QTest::addColumn<QString>("script");
-    for (const char *script : {"run", "check", ".ci/run", "Packaging/setup.sh",
-                               "Packaging/make-listing", "Packaging/make-samples"})
+    for (const char *script :
+         {"run", "check", ".ci/run", "Packaging/setup.sh", "Packaging/make-listing",
+          "Packaging/make-samples", "Tests/mutants/run"})
         QTest::newRow(script) << QString::fromLatin1(script);
 }
 
@@ -90,8 +91,8 @@ void tst_Scripts::scriptsAreReadByBash()
 void tst_Scripts::commandsAreExecutable_data()
 {
     QTest::addColumn<QString>("script");
-    for (const char *script :
-         {"run", "check", ".ci/run", "Packaging/make-listing", "Packaging/make-samples"})
+    for (const char *script : {"run", "check", ".ci/run", "Packaging/make-listing",
+                               "Packaging/make-samples", "Tests/mutants/run"})
         QTest::newRow(script) << QString::fromLatin1(script);
 }
 
@@ -392,7 +393,9 @@ void tst_Scripts::checkRunsItsStages_data()
                            QStringLiteral("cmake --build --preset tsan"),
                            QStringLiteral("ctest --preset tsan --no-tests=error -j2")};
     QTest::newRow("plain") << QStringList() << plain;
+    const QStringList mutants{QStringLiteral("run ")};
     QTest::newRow("all") << QStringList{QStringLiteral("--all")} << plain + more;
+    QTest::newRow("mutants") << QStringList{QStringLiteral("--mutants")} << plain + mutants;
 }
 
 void tst_Scripts::checkRunsItsStages()
@@ -403,12 +406,13 @@ void tst_Scripts::checkRunsItsStages()
     yard.fakeProgram(QStringLiteral("cmake"));
     yard.fakeProgram(QStringLiteral("ctest"), QStringLiteral("echo 100% tests passed"));
     yard.fakeProgram(QStringLiteral("setarch"), QStringLiteral("shift; \"$@\""));
+    yard.writeProgram(QStringLiteral("Tests/mutants/run"), QString());
     QVERIFY(yard.isValid());
 
     const CommandResult result = yard.run(QStringLiteral("check"), arguments);
 
     QVERIFY2(result.code == 0, qPrintable(result.errors));
-    QCOMPARE(callsOf(yard, QStringLiteral("(cmake|ctest)")), calls);
+    QCOMPARE(callsOf(yard, QStringLiteral("(cmake|ctest|run)")), calls);
     QVERIFY(result.output.contains(QLatin1String("100% tests passed")));
 }
 
