@@ -342,6 +342,19 @@ private Q_SLOTS:
         data.remove(m_stand.item("Ab"));
         QCOMPARE(text(data), QStringLiteral("[x] [y] +"));
     }
+    void visibleRowsOfGroupsKnowWhatCameAndWent()
+    {
+        ItemStand stand(NXVBLMODEL::fkProject, "B:x Aa:x Ab:y");
+        NMediaItemData data(mctMedia);
+        data.setChangesTold(true);
+        data.load(stand.folder);
+        data.setGroupBy(ByCategory);
+        for (const char *word : {"Ac:x", "D:z", "E:y"})
+            data.append(stand.make(QString::fromLatin1(word)), stand.folder);
+        data.remove(stand.item("B"));
+        QCOMPARE(rowsText(data.getVisibleItemsFromGroup()),
+                 QStringLiteral("[x] Aa Ac [y] Ab E [z] D"));
+    }
 };
 
 NX_TEST_MAIN(tst_NMediaItemData_copies)

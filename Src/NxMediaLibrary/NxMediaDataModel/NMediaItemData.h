@@ -150,7 +150,7 @@ private:
     [[nodiscard]] bool showsTiles() const;
     INxExtraMedia *addTile(NXVBLMODEL::NxMediaType type);
     [[nodiscard]] static QString titleOf(NXVBLMODEL::NxMediaType tile);
-    [[nodiscard]] Items narrowGroupsOfOthers();
+    [[nodiscard]] Items narrowGroupsByMembers();
     void appendPack(const Items &pack);
 
     [[nodiscard]] int headRows() const;

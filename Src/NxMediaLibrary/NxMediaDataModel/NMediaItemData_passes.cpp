@@ -94,8 +94,9 @@ Items NMediaItemData::getVisibleItems(const Items &items)
 Items NMediaItemData::getVisibleItemsFromGroup()
 {
     m_rowsFollow = false;
-    if (m_groupItems.isEmpty() || m_groupItems != m_arrangedGroups)
-        return narrowGroupsOfOthers();
+    const bool isArranged = !m_groupItems.isEmpty() && m_groupItems == m_arrangedGroups;
+    if (!isArranged || !m_arrangement->hasGroups())
+        return narrowGroupsByMembers();
     m_arrangement->show(doFilter(m_arrangement->media()),
                         m_sortEnable ? m_sortBy : NxMediaItemViewSort());
     Items rows;
@@ -112,8 +113,8 @@ Items NMediaItemData::getVisibleItemsFromGroup()
     return rows;
 }
 
-// The groups of a derived record, about which nothing else is known.
-Items NMediaItemData::narrowGroupsOfOthers()
+// Groups about which nothing else is known: those of a derived record, or to which media came.
+Items NMediaItemData::narrowGroupsByMembers()
 {
     Items rows;
     for (INxAbstractMedia *media : qAsConst(m_groupItems)) {

@@ -57,9 +57,13 @@ public:
     [[nodiscard]] const Items &media() const { return m_media; }
     /// Divides the media into sections that show nothing yet; into one without a key of groups.
     void groupBy(const Group &group);
+    /// True from groupBy() on, until a media comes, goes or is to be ordered anew: then the
+    /// sections of all media are known.
+    [[nodiscard]] bool hasGroups() const { return m_hasGroups; }
     /// The media that go to a section, as they are listed.
     [[nodiscard]] std::vector<Items> members() const;
-    /// Shows those of the media that pass, which stand in the order of the listing.
+    /// Shows those of the media that pass, which stand in the order of the listing. Only while
+    /// hasGroups().
     void show(const Items &passing, const Sort &sort);
     /// True when it was arranged by these.
     [[nodiscard]] bool isArrangedBy(const Group &group, const Sort &sort) const;
