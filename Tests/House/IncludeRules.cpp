@@ -20,16 +20,18 @@ const ModuleTable &standsOn()
     static const QString engine = QStringLiteral("NxVBLEngine");
     static const QString library = QStringLiteral("NxMediaLibrary");
     static const QString views = QStringLiteral("NxMediaViews");
+    static const QString protocol = QStringLiteral("NxWorkerProtocol");
     static const ModuleTable table{
         {core, {}},
         {settings, {core}},
         {widgets, {core}},
         {model, {core}},
-        {engine, {model, core}},
+        {protocol, {core}},
+        {engine, {model, core, protocol}},
         {library, {widgets, settings, model, core}},
         {views, {library, widgets, settings, model, core}},
         {QStringLiteral("Brevano"), {views, library, engine, widgets, settings, model, core}},
-        {QStringLiteral("brevano-worker"), {}},
+        {QStringLiteral("brevano-worker"), {protocol, core}},
     };
     return table;
 }
@@ -83,7 +85,9 @@ bool isWidgetHeader(const QString &target, const QStringList &widgetHeaders)
 bool hasNoWidgets(const QString &module)
 {
     static const QStringList modules{QStringLiteral("NxCore"), QStringLiteral("NxAppSettings"),
-                                     QStringLiteral("NxVBLModel"), QStringLiteral("NxVBLEngine")};
+                                     QStringLiteral("NxVBLModel"), QStringLiteral("NxVBLEngine"),
+                                     QStringLiteral("NxWorkerProtocol"),
+                                     QStringLiteral("brevano-worker")};
     return modules.contains(module);
 }
 
