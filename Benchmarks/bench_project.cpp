@@ -56,15 +56,47 @@ QVector<NxMediaSeed> seeds(int folder, int count)
     return made;
 }
 
+// A clip as one of some cameras writes it, and what is made of it.
+NxFootageRecord clip(qint64 id)
+{
+    constexpr int Cameras = 12;
+    NxFootageRecord record;
+    record.media = id;
+    record.state = NxReadState::Read;
+    record.stamp = {1000000 + id, 1700000000000 + id};
+    NxFootageStreams &streams = record.facts.streams;
+    streams.kind = NxFootageKind::Video;
+    streams.hasVideo = streams.hasAudio = streams.canSeek = true;
+    streams.width = 3840;
+    streams.height = 2160;
+    streams.videoCodec = QStringLiteral("h264");
+    streams.audioCodec = QStringLiteral("aac");
+    streams.cameraModel = QStringLiteral("Camera %1").arg(id % Cameras);
+    record.facts.frames = 100 + id % 1000;
+    record.facts.rate = {24000, 1001};
+    record.facts.durationUs = 4000000 + id;
+    record.facts.shot = 1700000000000 + id;
+    record.facts.timecode = QStringLiteral("01:02:%1:00").arg(id % 60, 2, 10, QLatin1Char('0'));
+    record.facts.reel = QStringLiteral("A%1").arg(id % 1000, 3, 10, QLatin1Char('0'));
+    record.fingerprint = {1000000 + id, quint64(id) * 7919, quint64(id) * 104729};
+    record.cover = record.strip = NxPictureState::Made;
+    return record;
+}
+
+enum Footage {
+    Unread,
+    Read,
+};
+
 // A project of that many media, made once a process.
-QString projectOf(int count)
+QString projectOf(int count, Footage footage = Unread)
 {
     static QTemporaryDir folder;
-    static std::map<int, QString> made;
-    QString &path = made[count];
+    static std::map<std::pair<int, Footage>, QString> made;
+    QString &path = made[{count, footage}];
     if (!path.isEmpty())
         return path;
-    path = folder.filePath(QString::number(count) + QStringLiteral(".brevano"));
+    path = folder.filePath(QStringLiteral("%1-%2.brevano").arg(count).arg(footage));
     NxEmbeddedEngine engine(withoutBackups());
     if (!engine.createProject(path))
         qFatal("the project cannot be made");
@@ -72,8 +104,11 @@ QString projectOf(int count)
     NxEngineFolder *section = memory->category(mctMedia)->folder(fidRoot);
     for (int at = 0; at < count; at += MediaPerFolder) {
         NxEngineFolder *home = memory->addNewFolder(section, QStringLiteral("Shoot %1").arg(at));
-        memory->addNewMedia(home, seeds(at, MediaPerFolder));
+        const auto added = memory->addNewMedia(home, seeds(at, MediaPerFolder));
+        for (NxEngineMedia *media : footage == Read ? added : QVector<NxEngineMedia *>())
+            memory->setFootage(media, clip(media->id()));
     }
+    memory->flush();
     if (!engine.closeProject())
         qFatal("the project cannot be closed");
     return path;
@@ -81,7 +116,8 @@ QString projectOf(int count)
 
 void openProject(benchmark::State &state)
 {
-    const QString path = projectOf(int(state.range(0)));
+    const QString path = projectOf(int(state.range(0)), Footage(state.range(1)));
+    state.SetLabel(state.range(1) == Read ? "footage read" : "footage not read");
     for (auto _ : state) {
         NxEmbeddedEngine engine(withoutBackups());
         if (!engine.openProject(path, NxProjectOpenMode::ReadWrite))
@@ -92,7 +128,13 @@ void openProject(benchmark::State &state)
         state.ResumeTiming();
     }
 }
-BENCHMARK(openProject)->Arg(100000)->Arg(1000000)->Unit(benchmark::kMillisecond)->Iterations(3);
+BENCHMARK(openProject)
+    ->Args({100000, Unread})
+    ->Args({100000, Read})
+    ->Args({1000000, Unread})
+    ->Args({1000000, Read})
+    ->Unit(benchmark::kMillisecond)
+    ->Iterations(3);
 
 size_t heapInUse()
 {
@@ -110,10 +152,19 @@ size_t heapOf(const QString &text)
     return (asked + Step - 1) / Step * Step;
 }
 
+size_t stringsOf(const NxEngineMedia *media)
+{
+    const size_t names = heapOf(media->name()) + heapOf(media->sourcePath());
+    const INxMediaInfo *info = media->mediaInfo();
+    const bool isRead = media->readState() == NxReadState::Read;
+    return names + (isRead ? heapOf(info->timecode()) + heapOf(info->reelName()) : 0);
+}
+
 void memoryPerMedia(benchmark::State &state)
 {
     const int count = int(state.range(0));
-    const QString path = projectOf(count);
+    const QString path = projectOf(count, Footage(state.range(1)));
+    state.SetLabel(state.range(1) == Read ? "footage read" : "footage not read");
     double bytes = 0;
     for (auto _ : state) {
         const size_t before = heapInUse();
@@ -122,14 +173,18 @@ void memoryPerMedia(benchmark::State &state)
             state.SkipWithError("the project cannot be opened");
         size_t strings = 0;
         for (const NxEngineMedia *media : memoryOf(&engine)->livingMedia())
-            strings += heapOf(media->name()) + heapOf(media->sourcePath());
+            strings += stringsOf(media);
         bytes = double(heapInUse() - before - strings) / count;
         if (!engine.closeProject())
             state.SkipWithError("the project cannot be closed");
     }
     state.counters["bytes_per_media"] = bytes;
 }
-BENCHMARK(memoryPerMedia)->Arg(100000)->Iterations(1)->Unit(benchmark::kMillisecond);
+BENCHMARK(memoryPerMedia)
+    ->Args({100000, Unread})
+    ->Args({100000, Read})
+    ->Iterations(1)
+    ->Unit(benchmark::kMillisecond);
 
 qint64 walk(const QList<INxAbstractMedia *> &items)
 {

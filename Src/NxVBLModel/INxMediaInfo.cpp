@@ -34,6 +34,31 @@ const NxImageInfo *INxMediaInfo::imageInfo() const
     return nullptr;
 }
 
+qint64 INxMediaInfo::videoBitRate() const
+{
+    return 0;
+}
+
+qint64 INxMediaInfo::audioBitRate() const
+{
+    return 0;
+}
+
+QString INxMediaInfo::timecode() const
+{
+    return {};
+}
+
+QString INxMediaInfo::reelName() const
+{
+    return {};
+}
+
+QString INxMediaInfo::textEncoding() const
+{
+    return {};
+}
+
 bool INxMediaInfo::canSeek() const
 {
     return true;

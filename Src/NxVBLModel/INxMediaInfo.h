@@ -35,6 +35,17 @@ public:
     [[nodiscard]] virtual const NxVideoStreamInfo *videoStream() const;
     [[nodiscard]] virtual const NxAudioStreamInfo *audioStream() const;
     [[nodiscard]] virtual const NxImageInfo *imageInfo() const;
+    /// Bits a second, as the container says; 0 when unknown.
+    [[nodiscard]] virtual qint64 videoBitRate() const;
+    /// Bits a second, as the container says; 0 when unknown.
+    [[nodiscard]] virtual qint64 audioBitRate() const;
+    /// Time code of the first frame, "01:00:00:00", with ";" before the frames when it drops some;
+    /// empty when there is none.
+    [[nodiscard]] virtual QString timecode() const;
+    /// The tape or card that the footage says it comes from; empty when unknown.
+    [[nodiscard]] virtual QString reelName() const;
+    /// Encoding of a subtitle file, e.g. "UTF-8"; empty for everything else.
+    [[nodiscard]] virtual QString textEncoding() const;
     [[nodiscard]] virtual bool canSeek() const;
     /// Name of the container format's reader.
     [[nodiscard]] virtual QString demuxer() const;

@@ -8,7 +8,8 @@
 #include <QString>
 
 /// What is known about the pictures of a moving-picture file. Unknown numbers are 0, unknown
-/// texts empty.
+/// texts empty. Files that one camera wrote share one such record; what differs from file to file
+/// is asked of INxMediaInfo.
 struct NxVideoStreamInfo
 {
     QSize frameSize; ///< px, as shown: rotation applied.
@@ -22,7 +23,6 @@ struct NxVideoStreamInfo
     QString colorTransfer;
     QString colorMatrix;
     bool variableFrameRate = false; ///< Frame times stand off the grid of the average rate.
-    qint64 bitRate = 0; ///< Bits a second.
     QString bitRateMode;
 };
 
@@ -33,7 +33,6 @@ struct NxAudioStreamInfo
     int channels = 0;
     QString format;
     QString codecTag;
-    qint64 bitRate = 0; ///< Bits a second.
 };
 
 /// What is known about a still picture.

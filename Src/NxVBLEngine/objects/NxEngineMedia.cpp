@@ -2,8 +2,13 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include <NxVBLEngine/objects/NxEngineMedia.h>
 
+#include <NxVBLEngine/objects/NxEngineCategory.h>
+#include <NxVBLEngine/objects/NxEngineFolder.h>
+#include <NxVBLEngine/objects/NxProjectMemory.h>
+#include <NxVBLEngine/objects/NxStreamDescription.h>
 #include <NxVBLModel/INxMediaInfo.h>
 #include <NxVBLModel/NxMediaFileTypes.h>
+#include <NxWorkerProtocol/NxPictureFile.h>
 
 #include <QCoreApplication>
 
@@ -23,8 +28,15 @@ QString suffixOf(const QString &path)
     return point > separator ? path.mid(point + 1) : QString();
 }
 
+constexpr qint64 MsPerDay = 24 * 60 * 60 * 1000;
+
+bool isBelievable(qint64 time)
+{
+    return time >= 0 && time <= QDateTime::currentMSecsSinceEpoch() + MsPerDay;
+}
+
 // By NxPresence.
-constexpr std::array<const char *, 5> Reasons = {
+constexpr std::array<const char *, 5> ReasonsOfPresence = {
     "",
     "",
     QT_TRANSLATE_NOOP("NxEngineMedia", "The file is missing."),
@@ -50,14 +62,18 @@ NxEngineMedia::NxEngineMedia(const NxMediaRecord &record)
       m_importKind(quint8(record.importKind))
 {
     setPlace(record.place);
-    readSuffix();
+    updateCodes();
 }
 
 NxEngineMedia::~NxEngineMedia() = default;
 
-void NxEngineMedia::readSuffix()
+void NxEngineMedia::updateCodes()
 {
-    const NXVBLMODEL::NxSuffixFacts facts = NXVBLMODEL::suffixFacts(suffixOf(m_path));
+    NXVBLMODEL::NxSuffixFacts facts;
+    if (const NxStreamDescription *read = m_facts.streams())
+        facts = {read->type, read->subKind, read->kindCode, &m_facts};
+    else
+        facts = NXVBLMODEL::suffixFacts(suffixOf(m_path));
     m_type = quint8(facts.type);
     m_subKind = quint16(facts.subKind);
     if (m_kindCode != NXVBLMODEL::mkcStockCopy)
@@ -91,7 +107,7 @@ void NxEngineMedia::setPaths(const QString &path, const QString &canonicalPath)
     m_path = path;
     m_canonicalPath = canonicalPath == path ? QString() : canonicalPath;
     m_presence = NxPresence::Unknown;
-    readSuffix();
+    updateCodes();
 }
 
 QString NxEngineMedia::canonicalPath() const
@@ -106,6 +122,60 @@ void NxEngineMedia::setFileFacts(qint64 size, qint64 created, qint64 modified)
     m_modified = modified;
 }
 
+NxFootageRow NxEngineMedia::footageRow() const
+{
+    NxFootageRow row;
+    row.media = m_id;
+    row.state = readState();
+    row.cover = coverState();
+    row.strip = stripState();
+    row.stamp = m_stamp;
+    row.fingerprint = m_fingerprint;
+    m_facts.writeTo(&row);
+    if (m_reasons) {
+        row.reason = m_reasons->read;
+        row.coverReason = m_reasons->cover;
+        row.stripReason = m_reasons->strip;
+    }
+    return row;
+}
+
+NxFootageRecord NxEngineMedia::footage() const
+{
+    const NxFootageRow row = footageRow();
+    NxFootageRecord record;
+    record.media = row.media;
+    record.state = row.state;
+    record.reason = row.reason;
+    record.stamp = row.stamp;
+    record.fingerprint = row.fingerprint;
+    record.cover = row.cover;
+    record.strip = row.strip;
+    record.coverReason = row.coverReason;
+    record.stripReason = row.stripReason;
+    if (const NxStreamDescription *read = m_facts.streams())
+        record.facts = {read->streams,  row.frames,       row.rate,
+                        row.durationUs, row.videoBitRate, row.audioBitRate,
+                        row.shot,       row.timecode,     row.reel};
+    return record;
+}
+
+void NxEngineMedia::setFootage(const NxFootageRow &row, const NxStreamDescription *streams)
+{
+    Q_ASSERT((row.state == NxReadState::Read) == (streams != nullptr));
+    m_readState = quint8(row.state);
+    m_coverState = quint8(row.cover);
+    m_stripState = quint8(row.strip);
+    m_stamp = row.stamp;
+    m_fingerprint = row.fingerprint;
+    m_facts.set(row, streams);
+    const bool hasReasons =
+        !row.reason.isEmpty() || !row.coverReason.isEmpty() || !row.stripReason.isEmpty();
+    m_reasons.reset(hasReasons ? new Reasons{row.reason, row.coverReason, row.stripReason}
+                               : nullptr);
+    updateCodes();
+}
+
 NXVBLMODEL::NxMediaType NxEngineMedia::mediaType() const
 {
     return NXVBLMODEL::NxMediaType(m_type);
@@ -118,12 +188,18 @@ QString NxEngineMedia::mediaId() const
 
 bool NxEngineMedia::isUnavailable() const
 {
-    return m_presence >= NxPresence::Missing;
+    return m_presence >= NxPresence::Missing || readState() == NxReadState::Failed;
 }
 
 QString NxEngineMedia::unavailableReason() const
 {
-    return QCoreApplication::translate("NxEngineMedia", Reasons[size_t(m_presence)]);
+    if (m_presence >= NxPresence::Missing)
+        return QCoreApplication::translate("NxEngineMedia", ReasonsOfPresence[size_t(m_presence)]);
+    if (readState() != NxReadState::Failed)
+        return {};
+    const bool isTold = m_reasons && !m_reasons->read.isEmpty();
+    return isTold ? m_reasons->read
+                  : QCoreApplication::translate("NxEngineMedia", "The file cannot be read.");
 }
 
 bool NxEngineMedia::hasDuration() const
@@ -133,7 +209,11 @@ bool NxEngineMedia::hasDuration() const
 
 QDateTime NxEngineMedia::dateCreated() const
 {
-    return timeOf(m_created);
+    for (const qint64 time : {m_facts.shot(), m_created, m_modified}) {
+        if (isBelievable(time))
+            return timeOf(time);
+    }
+    return {};
 }
 
 QDateTime NxEngineMedia::lastModified() const
@@ -144,4 +224,27 @@ QDateTime NxEngineMedia::lastModified() const
 QDateTime NxEngineMedia::favouriteTime() const
 {
     return timeOf(m_favourite);
+}
+
+QString NxEngineMedia::audioInfoText() const
+{
+    const NxStreamDescription *read = m_facts.streams();
+    return read ? read->audioFormat : QString();
+}
+
+QString NxEngineMedia::cameraName() const
+{
+    const NxStreamDescription *read = m_facts.streams();
+    return read ? read->camera : QString();
+}
+
+QString NxEngineMedia::thumbnailStripPath() const
+{
+    const bool isMade = stripState() == NxPictureState::Made && !fingerprint().isNull();
+    if (!isMade || !folder())
+        return {};
+    const QString cache = folder()->category()->memory()->pictureFolder();
+    return cache.isEmpty() ? cache
+                           : cache + QLatin1Char('/')
+                                 + NxPictureFile::name(fingerprint(), NxPictureKind::Strip);
 }

@@ -4,7 +4,10 @@
 
 #include <NxVBLEngine/NxVBLEngineExport.h>
 #include <NxVBLEngine/objects/NxEngineItem.h>
+#include <NxVBLEngine/objects/NxEngineMediaInfo.h>
 #include <NxVBLEngine/records/NxMediaRecord.h>
+
+#include <memory>
 
 /// Whether the file behind a media is there, as the disk thread last saw it.
 enum class NxPresence : quint8 {
@@ -17,7 +20,8 @@ enum class NxPresence : quint8 {
 
 /// A file of the user that stands in the project.
 ///
-/// By the million: no allocation beside its strings. The project memory owns and changes it.
+/// By the million: no allocation beside its strings, unless reading it failed. The project memory
+/// owns and changes it.
 class NXVBLENGINE_TEST_EXPORT NxEngineMedia final : public NxEngineItem
 {
 public:
@@ -43,6 +47,21 @@ public:
     [[nodiscard]] NxPresence presence() const { return m_presence; }
     void setPresence(NxPresence presence) { m_presence = presence; }
 
+    /// What is known of the file's contents. Without copying: the accessors below.
+    [[nodiscard]] NxFootageRecord footage() const;
+    /// The same without what it shares with other files.
+    [[nodiscard]] NxFootageRow footageRow() const;
+    /// Null unless the file was read.
+    [[nodiscard]] const NxStreamDescription *streams() const { return m_facts.streams(); }
+    /// `streams` describes a file that was read and lives longer than the media; else null.
+    void setFootage(const NxFootageRow &row, const NxStreamDescription *streams);
+    [[nodiscard]] NxReadState readState() const { return NxReadState(m_readState); }
+    /// Of the file as it was read.
+    [[nodiscard]] const NxFileStamp &stamp() const { return m_stamp; }
+    [[nodiscard]] const NxFingerprint &fingerprint() const { return m_fingerprint; }
+    [[nodiscard]] NxPictureState coverState() const { return NxPictureState(m_coverState); }
+    [[nodiscard]] NxPictureState stripState() const { return NxPictureState(m_stripState); }
+
     NXVBLMODEL::NxMediaType mediaType() const override;
     int subKind() const override { return m_subKind; }
     int state() const override { return NXVBLMODEL::lsNone; }
@@ -52,25 +71,42 @@ public:
     QString sourcePath() const override { return m_path; }
 
     QString filePath() const override { return m_path; }
+    /// A provisional one, of the suffix alone, unless the file was read.
     const INxMediaInfo *mediaInfo() const override { return m_info; }
     bool isUnavailable() const override;
     QString unavailableReason() const override;
     bool hasDuration() const override;
+    /// When it was recorded; else the birth of the file, else its last change. What lies before
+    /// 1970 or after tomorrow is a clock gone wrong and does not count.
     QDateTime dateCreated() const override;
     QDateTime lastModified() const override;
     int usedCount() const override { return m_used; }
     bool isFavourite() const override { return m_favourite != NxNoTime; }
     QDateTime favouriteTime() const override;
+    QString audioInfoText() const override;
+    QString cameraName() const override;
     qint64 sourceSize() const override { return m_size; }
+    QString thumbnailStripPath() const override;
 
 private:
-    void readSuffix();
+    struct Reasons
+    {
+        QString read;
+        QString cover;
+        QString strip;
+    };
+
+    void updateCodes();
 
     qint64 m_id;
     QString m_name;
     QString m_path;
     QString m_canonicalPath; // Empty when it is the path.
-    const INxMediaInfo *m_info = nullptr; // Static, by suffix.
+    const INxMediaInfo *m_info = nullptr; // Static, by suffix; or m_facts.
+    NxEngineMediaInfo m_facts;
+    NxFileStamp m_stamp;
+    NxFingerprint m_fingerprint;
+    std::unique_ptr<const Reasons> m_reasons; // Of failures; null where nothing failed.
     qint64 m_size;
     qint64 m_created;
     qint64 m_modified;
@@ -82,5 +118,8 @@ private:
     quint8 m_kindCode = 0;
     quint8 m_category;
     quint8 m_importKind;
+    quint8 m_readState = quint8(NxReadState::Unread);
+    quint8 m_coverState = quint8(NxPictureState::Unknown);
+    quint8 m_stripState = quint8(NxPictureState::Unknown);
     NxPresence m_presence = NxPresence::Unknown;
 };

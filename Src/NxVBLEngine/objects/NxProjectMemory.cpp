@@ -256,10 +256,13 @@ void NxProjectMemory::setMovedPath(NxEngineMedia *media, const QString &path)
 
 void NxProjectMemory::setPresence(NxEngineMedia *media, NxPresence presence)
 {
+    if (media->presence() == presence)
+        return;
     const bool wasUnavailable = media->isUnavailable();
-    const NxPresence before = media->presence();
+    const QString reason = wasUnavailable ? media->unavailableReason() : QString();
     media->setPresence(presence);
-    if (media->isUnavailable() != wasUnavailable || (wasUnavailable && before != presence))
+    if (media->isUnavailable() != wasUnavailable
+        || (wasUnavailable && media->unavailableReason() != reason))
         announce(media);
 }
 

@@ -4,6 +4,7 @@
 
 #include <NxVBLEngine/NxVBLEngineExport.h>
 #include <NxVBLEngine/objects/NxEngineMedia.h>
+#include <NxVBLEngine/objects/NxStreamDescriptions.h>
 #include <NxVBLEngine/records/NxProjectContents.h>
 
 #include <QHash>
@@ -62,6 +63,9 @@ public:
     void setReadOnly(bool readOnly) { m_readOnly = readOnly; }
     [[nodiscard]] bool isReadOnly() const { return m_readOnly; }
     [[nodiscard]] QString projectPath() const { return m_projectPath; }
+    /// Where covers and film strips lie; empty when none are made.
+    void setPictureFolder(const QString &folder) { m_pictureFolder = folder; }
+    [[nodiscard]] const QString &pictureFolder() const { return m_pictureFolder; }
 
     /// Null for a category that is none.
     [[nodiscard]] NxEngineCategory *category(int category) const;
@@ -89,6 +93,10 @@ public:
 
     /// File facts that no undo concerns, announced as one state change.
     void setFileFacts(NxEngineMedia *media, qint64 size, qint64 created, qint64 modified);
+    /// What was read of the media's file, in place of what was known; `record.media` is ignored.
+    /// Stored when it differs, unless the project is read-only: then it lasts as long as the
+    /// memory. Announced as one state change when a view shows it. No undo concerns it.
+    void setFootage(NxEngineMedia *media, const NxFootageRecord &record);
     /// The same file under another path, because project and footage moved together.
     void setMovedPath(NxEngineMedia *media, const QString &path);
     /// What the disk thread saw; announced when it differs, not stored.
@@ -148,6 +156,8 @@ private:
     void destroyMedia(NxEngineMedia *media);
     void loadFolders(const std::vector<NxFolderRecord> &folders);
     void loadMedia(std::vector<NxMediaRecord> media);
+    void loadFootage(NxProjectContents *contents);
+    void forgetFootage(NxEngineMedia *media);
     void loadResources(const std::vector<NxResourceRecord> &resources);
     void indexPath(NxEngineMedia *media);
     void unindexPath(NxEngineMedia *media);
@@ -161,11 +171,13 @@ private:
 
     const QString m_projectPath;
     const QString m_projectFolder;
+    QString m_pictureFolder;
     bool m_readOnly = false;
     Writer m_writer;
     NxStoreBatch m_batch;
     NxStoreEntry::Counters m_counters;
 
+    NxStreamDescriptions m_descriptions;
     std::pmr::unsynchronized_pool_resource m_mediaPool; // Media lie in blocks, in load order.
     std::unique_ptr<NxMediaIdIndex> m_mediaById; // Removed ones included.
     QMultiHash<uint, NxEngineMedia *> m_mediaByPathHash; // Living ones, by both their paths.

@@ -234,6 +234,7 @@ void NxProjectMemory::applyMediaRelink(const NxChange &change)
 {
     NxEngineMedia *relinked = media(change.ids.first());
     unindexPath(relinked);
+    forgetFootage(relinked);
     relinked->setPaths(change.after.text, change.after.secondText);
     indexPath(relinked);
     enqueue(NxStoreEntry::Facts{{storedRecord(relinked)}});

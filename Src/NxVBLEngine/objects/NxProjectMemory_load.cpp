@@ -48,6 +48,7 @@ void NxProjectMemory::load(NxProjectContents contents)
     loadFolders(contents.folders);
     loadResources(contents.resources);
     loadMedia(std::move(contents.media));
+    loadFootage(&contents);
     m_undoStack->load(std::move(contents.undoSteps), contents.undoDone);
 }
 

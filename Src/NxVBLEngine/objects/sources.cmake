@@ -14,6 +14,8 @@ list(APPEND NXVBLENGINE_SOURCES
     objects/NxEngineItemManager.h
     objects/NxEngineMedia.cpp
     objects/NxEngineMedia.h
+    objects/NxEngineMediaInfo.cpp
+    objects/NxEngineMediaInfo.h
     NxEngineProject.cpp
     NxEngineProject.h
     objects/NxEngineResource.cpp
@@ -25,9 +27,14 @@ list(APPEND NXVBLENGINE_SOURCES
     objects/NxProjectMemory.cpp
     objects/NxProjectMemory.h
     objects/NxProjectMemory_changes.cpp
+    objects/NxProjectMemory_footage.cpp
     objects/NxProjectMemory_invariants.cpp
     objects/NxProjectMemory_load.cpp
     objects/NxResourceCatalogue.cpp
     objects/NxResourceCatalogue.h
     objects/NxSiblingPlaces.cpp
-    objects/NxSiblingPlaces.h)
+    objects/NxSiblingPlaces.h
+    objects/NxStreamDescription.cpp
+    objects/NxStreamDescription.h
+    objects/NxStreamDescriptions.cpp
+    objects/NxStreamDescriptions.h)

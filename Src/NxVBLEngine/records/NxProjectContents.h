@@ -3,6 +3,7 @@
 #pragma once
 
 #include <NxVBLEngine/records/NxFolderRecord.h>
+#include <NxVBLEngine/records/NxFootageRow.h>
 #include <NxVBLEngine/records/NxResourceRecord.h>
 #include <NxVBLEngine/records/NxStoreBatch.h>
 #include <NxVBLEngine/records/NxUndoRecord.h>
@@ -16,6 +17,11 @@ struct NxProjectContents
     /// By category, folder and place, so that what is listed together is read together.
     /// Dead ones included.
     std::vector<NxMediaRecord> media;
+    std::vector<NxFootageRow> footage; ///< By media. Files of which nothing is known have none.
+    std::vector<NxFootageStreams> streams; ///< What the rows of footage point into.
+    /// Rows of footage that make no sense and are left out. Their files are to be read again;
+    /// nothing of the user's is lost with them.
+    qint64 senselessFootage = 0;
     std::vector<NxResourceRecord> resources;
     std::vector<NxUndoRecord> undoSteps; ///< Oldest first.
     int undoDone = 0; ///< How many of the steps are done.

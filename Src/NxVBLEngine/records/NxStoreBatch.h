@@ -4,6 +4,7 @@
 
 #include <NxVBLEngine/records/NxChange.h>
 #include <NxVBLEngine/records/NxFolderRecord.h>
+#include <NxVBLEngine/records/NxFootageRecord.h>
 #include <NxVBLEngine/records/NxMediaRecord.h>
 
 #include <QVector>
@@ -34,6 +35,12 @@ struct Facts
 {
     QVector<NxMediaRecord>
         media; ///< id, path, canonicalPath, relativePath, size, created, modified.
+};
+/// What was read of files, in place of what was known before. A record that knows nothing takes
+/// away what was known.
+struct Footage
+{
+    QVector<NxFootageRecord> footage;
 };
 /// A new undo step begins; steps after the current position are dropped before it.
 struct StepBegin
@@ -69,8 +76,8 @@ struct Counters
     qint64 nextStepSerial = 1;
 };
 
-using Any = std::variant<NewMedia, NewFolder, Apply, Facts, StepBegin, StepChange, StepPosition,
-                         StepDrop, Counters>;
+using Any = std::variant<NewMedia, NewFolder, Apply, Facts, Footage, StepBegin, StepChange,
+                         StepPosition, StepDrop, Counters>;
 
 } // namespace NxStoreEntry
 

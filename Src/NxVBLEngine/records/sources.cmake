@@ -2,6 +2,9 @@ list(APPEND NXVBLENGINE_SOURCES
     records/NxChange.cpp
     records/NxChange.h
     records/NxFolderRecord.h
+    records/NxFootageRecord.h
+    records/NxFootageRow.cpp
+    records/NxFootageRow.h
     records/NxLosslessText.cpp
     records/NxLosslessText.h
     records/NxMediaRecord.h

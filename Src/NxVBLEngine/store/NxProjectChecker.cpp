@@ -37,6 +37,7 @@ public:
         checkFolders();
         checkSiblings();
         checkMedia();
+        checkFootage();
         checkCounters();
         checkUndo();
         return m_problems;
@@ -101,6 +102,18 @@ private:
             m_media.insert(media.id);
             if (!isFolder(media.category, media.folder))
                 m_problems += said("media %1 lies in a folder that is not there", media.id);
+        }
+    }
+
+    void checkFootage()
+    {
+        for (const NxFootageRow &row : m_contents.footage) {
+            if (!m_media.contains(row.media))
+                m_problems += said("facts are kept of media %1, which is not there", row.media);
+        }
+        if (m_contents.senselessFootage > 0) {
+            m_problems += said("facts that make no sense, whose files are to be read again: %1",
+                               m_contents.senselessFootage);
         }
     }
 

@@ -2,54 +2,26 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include <NxVBLEngine/store/NxProjectReader.h>
 
+#include <NxVBLEngine/store/NxFootageTableReader.h>
+#include <NxVBLEngine/store/NxNarrowing.h>
 #include <NxVBLEngine/store/NxSqliteDatabase.h>
 
 #include <QCoreApplication>
 
 #include <algorithm>
-#include <limits>
 #include <tuple>
 
 namespace {
 
 using Step = NxSqliteStatement::Step;
+using Table = NxTableReader::Table;
 
 constexpr int MostCategories = 11;
-constexpr qint64 BeforeAllKeys = std::numeric_limits<qint64>::min();
 
 QString translated(const char *text)
 {
     return QCoreApplication::translate("NxProjectStore", text);
 }
-
-/// Reads numbers that must fit a smaller type; remembers whether one did not.
-class Narrowing
-{
-public:
-    explicit Narrowing(const NxSqliteStatement &statement) : m_statement(statement) {}
-
-    int integer(int column)
-    {
-        const qint64 wide = m_statement.integer(column);
-        m_fits = m_fits && wide == qint64(int(wide));
-        return int(wide);
-    }
-    bool flag(int column)
-    {
-        const qint64 wide = m_statement.integer(column);
-        m_fits = m_fits && (wide == 0 || wide == 1);
-        return wide == 1;
-    }
-    qint64 time(int column) const
-    {
-        return m_statement.isNull(column) ? NxNoTime : m_statement.integer(column);
-    }
-    [[nodiscard]] bool fits() const { return m_fits; }
-
-private:
-    const NxSqliteStatement &m_statement;
-    bool m_fits = true;
-};
 
 bool isCategory(int category)
 {
@@ -58,7 +30,7 @@ bool isCategory(int category)
 
 bool readFolder(const NxSqliteStatement &row, NxFolderRecord *folder)
 {
-    Narrowing from(row);
+    NxNarrowing from(row);
     folder->id = from.integer(0);
     folder->category = from.integer(1);
     folder->parent = from.integer(2);
@@ -70,7 +42,7 @@ bool readFolder(const NxSqliteStatement &row, NxFolderRecord *folder)
 
 bool readOneMedia(const NxSqliteStatement &row, NxMediaRecord *media)
 {
-    Narrowing from(row);
+    NxNarrowing from(row);
     media->id = row.integer(0);
     media->category = from.integer(1);
     media->folder = from.integer(2);
@@ -95,7 +67,7 @@ bool readResource(const NxSqliteStatement &row, NxResourceRecord *resource)
 {
     resource->id = row.integer(0);
     resource->name = row.text(1);
-    resource->favourite = Narrowing(row).time(2);
+    resource->favourite = NxNarrowing(row).time(2);
     return true;
 }
 
@@ -116,7 +88,7 @@ struct ChangeRow
 
 bool readChange(const NxSqliteStatement &row, ChangeRow *change)
 {
-    Narrowing from(row);
+    NxNarrowing from(row);
     change->id = row.integer(0);
     change->step = row.integer(1);
     const int kind = from.integer(2);
@@ -129,36 +101,7 @@ bool readChange(const NxSqliteStatement &row, ChangeRow *change)
            && unpackState(row.blob(6), &change->change.after);
 }
 
-qint64 keyOf(const NxFolderRecord &folder)
-{
-    return folder.id;
-}
-qint64 keyOf(const NxMediaRecord &media)
-{
-    return media.id;
-}
-qint64 keyOf(const NxResourceRecord &resource)
-{
-    return resource.id;
-}
-qint64 keyOf(const NxUndoRecord &step)
-{
-    return step.serial;
-}
-qint64 keyOf(const ChangeRow &change)
-{
-    return change.id;
-}
-
-template<typename Row>
-void sortAndThin(std::vector<Row> *rows)
-{
-    std::stable_sort(rows->begin(), rows->end(),
-                     [](const Row &a, const Row &b) { return keyOf(a) < keyOf(b); });
-    rows->erase(std::unique(rows->begin(), rows->end(),
-                            [](const Row &a, const Row &b) { return keyOf(a) == keyOf(b); }),
-                rows->end());
-}
+const auto IdOf = [](const auto &row) { return qint64(row.id); };
 
 /// Where a media is listed; the id makes it one order.
 auto listedAt(const NxMediaRecord &media)
@@ -194,7 +137,11 @@ void rearrange(std::vector<NxMediaRecord> *rows, std::vector<ListedMedia> *order
 
 } // namespace
 
-NxProjectReader::NxProjectReader(NxSqliteDatabase *database) : m_database(database) {}
+NxProjectReader::NxProjectReader(NxSqliteDatabase *database)
+    : m_database(database),
+      m_tables(database)
+{
+}
 
 NxProjectContents NxProjectReader::read(const QString &damage)
 {
@@ -203,12 +150,15 @@ NxProjectContents NxProjectReader::read(const QString &damage)
     readMeta();
     readFolders();
     readMedia();
+    readFootage();
     readResources();
     readUndo();
-    if (m_impossible > 0) {
+    m_damage += m_tables.damage();
+    const qint64 impossible = m_tables.impossible() + m_strayChanges;
+    if (impossible > 0) {
         m_damage += QCoreApplication::translate("NxProjectStore",
                                                 "entries with impossible values are left out: %n",
-                                                nullptr, int(std::min<qint64>(m_impossible, 1e9)));
+                                                nullptr, int(std::min<qint64>(impossible, 1e9)));
     }
     m_damage.removeDuplicates();
     m_contents.damage = m_damage.join(QLatin1String("; "));
@@ -244,7 +194,7 @@ void NxProjectReader::readFolders()
 {
     const Table table{QT_TRANSLATE_NOOP("NxProjectStore", "the list of folders breaks off"),
                       "SELECT id, category, parent, place, name, alive FROM folder", "id"};
-    readTable(table, &m_contents.folders, readFolder);
+    m_tables.read(table, &m_contents.folders, readFolder, IdOf);
     std::sort(m_contents.folders.begin(), m_contents.folders.end(),
               [](const NxFolderRecord &a, const NxFolderRecord &b) {
                   return std::tie(a.category, a.id) < std::tie(b.category, b.id);
@@ -259,7 +209,7 @@ void NxProjectReader::readMedia()
                       " kind_code, alive FROM media",
                       "id"};
     m_contents.media.reserve(size_t(mediaEstimate()));
-    readTable(table, &m_contents.media, readOneMedia);
+    m_tables.read(table, &m_contents.media, readOneMedia, IdOf);
     sortMedia();
 }
 
@@ -291,24 +241,32 @@ void NxProjectReader::sortMedia()
     rearrange(&media, &order);
 }
 
+void NxProjectReader::readFootage()
+{
+    NxFootageTableReader reader(m_database);
+    reader.read(&m_contents);
+    m_damage += reader.damage();
+}
+
 void NxProjectReader::readResources()
 {
     const Table table{QT_TRANSLATE_NOOP("NxProjectStore", "the list of resources breaks off"),
                       "SELECT id, name, favourite FROM resource", "id"};
-    readTable(table, &m_contents.resources, readResource);
+    m_tables.read(table, &m_contents.resources, readResource, IdOf);
 }
 
 void NxProjectReader::readUndo()
 {
     const Table stepTable{QT_TRANSLATE_NOOP("NxProjectStore", "the undo steps break off"),
                           "SELECT serial, function, action FROM undo_step", "serial"};
-    readTable(stepTable, &m_contents.undoSteps, readStep);
+    m_tables.read(stepTable, &m_contents.undoSteps, readStep,
+                  [](const NxUndoRecord &step) { return step.serial; });
 
     const Table changeTable{QT_TRANSLATE_NOOP("NxProjectStore", "the undo steps break off"),
                             "SELECT id, step, kind, category, ids, before, after FROM undo_change",
                             "id"};
     std::vector<ChangeRow> changes;
-    readTable(changeTable, &changes, readChange);
+    m_tables.read(changeTable, &changes, readChange, IdOf);
 
     std::vector<NxUndoRecord> &steps = m_contents.undoSteps;
     for (ChangeRow &row : changes) {
@@ -318,41 +276,11 @@ void NxProjectReader::readUndo()
         if (step != steps.end() && step->serial == row.step)
             step->changes.append(std::move(row.change));
         else
-            ++m_impossible;
+            ++m_strayChanges;
     }
     const int stepCount = int(steps.size());
     if (m_contents.undoDone < 0 || m_contents.undoDone > stepCount) {
         m_damage += translated("the place within the undo steps is impossible");
         m_contents.undoDone = std::clamp(m_contents.undoDone, 0, stepCount);
     }
-}
-
-template<typename Row, typename Read>
-void NxProjectReader::readTable(const Table &table, std::vector<Row> *rows, const Read &read)
-{
-    const auto readOnwards = [&](const char *order, qint64 after, qint64 *lastKey) {
-        const QByteArray sql = QByteArray(table.select) + " WHERE " + table.key + " > ?1 ORDER BY "
-                               + table.key + order;
-        NxSqliteStatement statement = m_database->prepare(sql.constData());
-        statement.bind(1, after);
-        Step step = Step::Row;
-        while ((step = statement.step()) == Step::Row) {
-            *lastKey = statement.integer(0);
-            rows->emplace_back();
-            if (read(statement, &rows->back()))
-                continue;
-            rows->pop_back();
-            ++m_impossible;
-        }
-        return step == Step::Done;
-    };
-
-    qint64 lastAscending = BeforeAllKeys;
-    if (readOnwards("", BeforeAllKeys, &lastAscending))
-        return;
-    m_damage += translated(table.title);
-    qint64 lastDescending = 0;
-    if (!readOnwards(" DESC", lastAscending, &lastDescending))
-        m_damage += translated(table.title);
-    sortAndThin(rows);
 }

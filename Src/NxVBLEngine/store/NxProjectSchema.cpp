@@ -65,11 +65,50 @@ CREATE TABLE undo_change(
 CREATE INDEX undo_change_step ON undo_change(step);
 )sql";
 
+/// What was read of files. Unknown times are NULL, as are a fingerprint that is not known and the
+/// description of a file that was not read. Descriptions are what files share; SQLite numbers them.
+constexpr const char *FootageTables = R"sql(
+CREATE TABLE stream_description(
+    id INTEGER PRIMARY KEY,
+    streams BLOB NOT NULL UNIQUE
+) STRICT;
+CREATE TABLE footage(
+    media INTEGER PRIMARY KEY,
+    state INTEGER NOT NULL,
+    reason TEXT NOT NULL,
+    file_size INTEGER NOT NULL,
+    file_modified INTEGER,
+    description INTEGER,
+    frames INTEGER NOT NULL,
+    rate_num INTEGER NOT NULL,
+    rate_den INTEGER NOT NULL,
+    duration_us INTEGER NOT NULL,
+    video_bit_rate INTEGER NOT NULL,
+    audio_bit_rate INTEGER NOT NULL,
+    shot INTEGER,
+    timecode TEXT NOT NULL,
+    reel TEXT NOT NULL,
+    fingerprint_version INTEGER,
+    fingerprint_size INTEGER,
+    fingerprint_high INTEGER,
+    fingerprint_low INTEGER,
+    cover INTEGER NOT NULL,
+    cover_reason TEXT NOT NULL,
+    strip INTEGER NOT NULL,
+    strip_reason TEXT NOT NULL
+) STRICT;
+)sql";
+
 static_assert(NxProjectSchema::ApplicationId == 1114797678);
 
 bool makeFirstTables(NxSqliteDatabase &database)
 {
     return database.execute(FirstTables);
+}
+
+bool makeFootageTables(NxSqliteDatabase &database)
+{
+    return database.execute(FootageTables);
 }
 
 bool setVersion(NxSqliteDatabase *database, size_t version)
@@ -82,7 +121,7 @@ bool setVersion(NxSqliteDatabase *database, size_t version)
 
 const std::vector<NxSchemaStep> &NxProjectSchema::steps()
 {
-    static const std::vector<NxSchemaStep> all{makeFirstTables};
+    static const std::vector<NxSchemaStep> all{makeFirstTables, makeFootageTables};
     return all;
 }
 

@@ -31,7 +31,7 @@ constexpr qint64 ApplicationId = 0x4272766E; ///< "Brvn"
 [[nodiscard]] NXVBLENGINE_TEST_EXPORT NxResult<void> migrate(
     NxSqliteDatabase *database, const std::vector<NxSchemaStep> &migrations);
 
-/// "/a/b.brevano: was made by a newer version (schema 7, this program knows 1)"
+/// "/a/b.brevano: was made by a newer version (schema 7, this program knows 2)"
 [[nodiscard]] NxError newerVersion(const QString &path, qint64 version);
 
 } // namespace NxProjectSchema

@@ -168,7 +168,9 @@ bool insertMedia(NxSqliteStatement *insert, const NxMediaRecord &media)
 
 } // namespace
 
-NxProjectWriter::NxProjectWriter(NxSqliteDatabase *database) : m_database(database)
+NxProjectWriter::NxProjectWriter(NxSqliteDatabase *database)
+    : m_database(database),
+      m_footage(database)
 {
     static_assert(std::size(Texts) == SqlCount);
 }
@@ -251,6 +253,12 @@ bool NxProjectWriter::writeEntry(const NxStoreEntry::Facts &entry)
     return true;
 }
 
+bool NxProjectWriter::writeEntry(const NxStoreEntry::Footage &entry)
+{
+    return std::all_of(entry.footage.begin(), entry.footage.end(),
+                       [this](const NxFootageRecord &record) { return m_footage.write(record); });
+}
+
 bool NxProjectWriter::writeEntry(const NxStoreEntry::StepBegin &entry)
 {
     NxSqliteStatement *const insert = statement(InsertStep);
@@ -280,8 +288,8 @@ bool NxProjectWriter::writeEntry(const NxStoreEntry::StepPosition &entry)
 bool NxProjectWriter::writeEntry(const NxStoreEntry::StepDrop &entry)
 {
     return runForEach(DropStepChanges, entry.serials) && runForEach(DropStep, entry.serials)
-           && runForEach(DropMedia, entry.deadMedia) && runForEach(DropFolder, entry.deadFolders)
-           && statement(ClampPosition)->run();
+           && runForEach(DropMedia, entry.deadMedia) && m_footage.dropOfGone(entry.deadMedia)
+           && runForEach(DropFolder, entry.deadFolders) && statement(ClampPosition)->run();
 }
 
 bool NxProjectWriter::writeEntry(const NxStoreEntry::Counters &entry)

@@ -5,6 +5,7 @@
 #include <NxCore/NxResult.h>
 #include <NxVBLEngine/NxVBLEngineExport.h>
 #include <NxVBLEngine/records/NxStoreBatch.h>
+#include <NxVBLEngine/store/NxFootageTableWriter.h>
 #include <NxVBLEngine/store/NxSqliteStatement.h>
 
 #include <QString>
@@ -38,6 +39,7 @@ private:
     [[nodiscard]] bool writeEntry(const NxStoreEntry::NewFolder &entry);
     [[nodiscard]] bool writeEntry(const NxStoreEntry::Apply &entry);
     [[nodiscard]] bool writeEntry(const NxStoreEntry::Facts &entry);
+    [[nodiscard]] bool writeEntry(const NxStoreEntry::Footage &entry);
     [[nodiscard]] bool writeEntry(const NxStoreEntry::StepBegin &entry);
     [[nodiscard]] bool writeEntry(const NxStoreEntry::StepChange &entry);
     [[nodiscard]] bool writeEntry(const NxStoreEntry::StepPosition &entry);
@@ -52,5 +54,6 @@ private:
 
     NxSqliteDatabase *const m_database; // Not owned.
     std::array<NxSqliteStatement, SqlCount> m_statements; // Each prepared at its first use.
+    NxFootageTableWriter m_footage;
     QString m_refusal;
 };

@@ -3,6 +3,11 @@ list(APPEND NXVBLENGINE_SOURCES
     store/NxBackupFolder.h
     store/NxFileSystemKind.cpp
     store/NxFileSystemKind.h
+    store/NxFootageTableReader.cpp
+    store/NxFootageTableReader.h
+    store/NxFootageTableWriter.cpp
+    store/NxFootageTableWriter.h
+    store/NxNarrowing.h
     store/NxProjectBackupJob.cpp
     store/NxProjectBackupJob.h
     store/NxProjectChecker.cpp
@@ -35,4 +40,8 @@ list(APPEND NXVBLENGINE_SOURCES
     store/NxStoreCause.cpp
     store/NxStoreCause.h
     store/NxStoreThread.cpp
-    store/NxStoreThread.h)
+    store/NxStoreThread.h
+    store/NxStreamsForm.cpp
+    store/NxStreamsForm.h
+    store/NxTableReader.cpp
+    store/NxTableReader.h)

@@ -3,6 +3,7 @@
 #include "EngineFixture.h"
 
 #include <NxVBLModel/INxMediaInfo.h>
+#include <NxWorkerProtocol/NxWorkerMessages.h>
 
 #include <QTextStream>
 
@@ -66,7 +67,20 @@ void dumpInfo(QTextStream &out, const INxMediaInfo *info)
     out << " info " << info->kind() << ' ' << info->streamFlags() << ' ' << info->frameCount()
         << ' ' << info->frameRate().num << '/' << info->frameRate().den << ' ' << info->duration()
         << ' ' << bool(info->videoStream()) << bool(info->audioStream()) << bool(info->imageInfo())
-        << info->canSeek() << info->demuxer();
+        << info->canSeek() << info->demuxer() << ' ' << info->videoBitRate() << ' '
+        << info->audioBitRate() << ' ' << info->timecode() << info->reelName()
+        << info->textEncoding();
+}
+
+void dumpFootage(QTextStream &out, const NxEngineMedia *media)
+{
+    const NxFootageRecord record = media->footage();
+    out << " footage " << int(record.state) << record.reason << ' ' << record.stamp.size << ' '
+        << record.stamp.modified << ' ' << record.facts.shot << ' ' << record.facts.durationUs
+        << ' ' << NxWorkerMessages::packedStreams(record.facts.streams).toHex() << ' '
+        << record.fingerprint.size << ' ' << record.fingerprint.high << ' '
+        << record.fingerprint.low << ' ' << int(record.cover) << record.coverReason << ' '
+        << int(record.strip) << record.stripReason;
 }
 
 void dumpItem(QTextStream &out, const INxAbstractMedia *media)
@@ -92,6 +106,8 @@ void dumpItem(QTextStream &out, const INxAbstractMedia *media)
         << item->downloadDuration() << ' ' << item->templateSize().width() << ' '
         << item->templateSlotCount();
     dumpInfo(out, item->mediaInfo());
+    if (const auto *file = dynamic_cast<const NxEngineMedia *>(item))
+        dumpFootage(out, file);
 }
 
 void dumpFolder(QTextStream &out, const INxFolderMedia *folder)

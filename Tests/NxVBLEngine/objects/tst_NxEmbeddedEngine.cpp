@@ -16,6 +16,7 @@
 #include <NxVBLModel/NxMediaEngineDoor.h>
 #include <NxVBLModel/NxObserverConnector.h>
 
+#include <NxVBLEngine/Support/NxFootageSamples.h>
 #include <NxVBLEngine/Support/NxProjectDump.h>
 #include <Support/NxFootageGuard.h>
 #include <Support/NxTempDir.h>
@@ -26,6 +27,9 @@
 #include <QSignalSpy>
 #include <QTemporaryDir>
 #include <QtTest>
+
+#include <iterator>
+#include <random>
 
 using namespace NXVBLMODEL;
 
@@ -44,6 +48,20 @@ INxMediaManager *mediaOf(INxProject *project)
 INxFolderMedia *sectionOf(INxProject *project)
 {
     return mediaOf(project)->folderManager()->folder(fidRoot);
+}
+
+/// Now and then a file is read, cannot be read, or is to be read again.
+void readSomething(NxProjectMemory *memory, std::mt19937 *random)
+{
+    const std::vector<NxEngineMedia *> living = memory->livingMedia();
+    if (living.empty())
+        return;
+    NxEngineMedia *chosen = living[(*random)() % living.size()];
+    const qint64 id = chosen->id();
+    const NxFootageRecord outcomes[] = {
+        NxFootageSamples::full(id, 1), NxFootageSamples::full(id, 2), NxFootageSamples::failed(id),
+        NxFootageRecord(), NxFootageSamples::ofKind(NxFootageKind::Image)};
+    memory->setFootage(chosen, outcomes[(*random)() % std::size(outcomes)]);
 }
 
 bool commit(INxProject *project)
@@ -162,6 +180,37 @@ private Q_SLOTS:
         const auto project = engine.openProject(path, NxProjectOpenMode::ReadWrite);
         QVERIFY2(project, qPrintable(project.errorText()));
         QCOMPARE(dumpOf(*project), before);
+        QCOMPARE(engine.integrityProblems().join(QLatin1Char('\n')), QString());
+    }
+
+    void whatWasReadOfFootageIsThereWhenOpenedAgain_data()
+    {
+        QTest::addColumn<quint32>("seed");
+        for (quint32 seed = 1; seed <= 4; ++seed)
+            QTest::addRow("seed %u", seed) << seed;
+    }
+
+    void whatWasReadOfFootageIsThereWhenOpenedAgain()
+    {
+        QFETCH(quint32, seed);
+        const QString path = freshPath();
+        NxEmbeddedEngine engine(noBackups());
+        const auto project = engine.createProject(path);
+        QVERIFY(project);
+        auto *memory = static_cast<NxEngineProject *>(*project)->memory();
+        RandomSession user(memory, seed);
+        std::mt19937 random(seed);
+        for (int i = 0; i < 1000; ++i) {
+            user.step();
+            readSomething(memory, &random);
+        }
+        const QByteArray before = dumpOf(*project);
+        QVERIFY(before.contains("Maker Model 2")); // As the name of a camera.
+        memory->flush();
+        QVERIFY(engine.closeProject());
+        const auto again = engine.openProject(path, NxProjectOpenMode::ReadWrite);
+        QVERIFY2(again, qPrintable(again.errorText()));
+        QCOMPARE(dumpOf(*again), before);
         QCOMPARE(engine.integrityProblems().join(QLatin1Char('\n')), QString());
     }
 

@@ -2,7 +2,9 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "StoreSamples.h"
 
+#include <NxVBLEngine/Support/NxFootageSamples.h>
 #include <NxVBLEngine/store/NxSqliteDatabase.h>
+#include <NxVBLEngine/store/NxStreamsForm.h>
 
 #include <QDir>
 #include <QFile>
@@ -65,6 +67,25 @@ QString described(const NxChange &change)
         ids += text(id);
     return line("change", text(int(change.what)), text(change.category), ids.join(QLatin1Char(',')),
                 text(change.before), text(change.after));
+}
+
+QString text(const NxFingerprint &fingerprint)
+{
+    return line("", text(fingerprint.size), QString::number(fingerprint.high, 16),
+                QString::number(fingerprint.low, 16));
+}
+
+QString described(const NxFootageRow &row, const NxProjectContents &contents)
+{
+    const QByteArray streams =
+        row.streams < 0 ? QByteArray()
+                        : NxStreamsForm::packed(contents.streams.at(size_t(row.streams))).toHex();
+    return line("footage", text(row.media), text(int(row.state)), text(row.reason),
+                text(row.stamp.size), text(row.stamp.modified), QString::fromLatin1(streams),
+                text(row.frames), text(row.rate.num), text(row.rate.den), text(row.durationUs),
+                text(row.videoBitRate), text(row.audioBitRate), text(row.shot), text(row.timecode),
+                text(row.reel), text(row.fingerprint), text(int(row.cover)), text(row.coverReason),
+                text(int(row.strip)), text(row.stripReason));
 }
 
 NxChangeState named(const QString &name)
@@ -184,6 +205,10 @@ std::vector<NxStoreBatch> StoreSamples::session()
     facts.size = 99;
     facts.relativePath = QStringLiteral("elsewhere/Clip 11.mp4");
     batches.push_back({NxStoreEntry::Facts{{facts}}});
+    batches.push_back(
+        {NxStoreEntry::Footage{{NxFootageSamples::full(12), NxFootageSamples::full(13, 2),
+                                NxFootageSamples::failed(14)}},
+         NxStoreEntry::Footage{{NxFootageSamples::full(15)}}});
     return batches;
 }
 
@@ -194,6 +219,10 @@ QStringList StoreSamples::described(const NxProjectContents &contents)
         lines += ::described(record);
     for (const NxMediaRecord &record : contents.media)
         lines += ::described(record);
+    for (const NxFootageRow &row : contents.footage)
+        lines += ::described(row, contents);
+    if (contents.senselessFootage != 0)
+        lines += line("senseless footage", text(contents.senselessFootage));
     for (const NxResourceRecord &record : contents.resources)
         lines += line("resource", text(record.id), text(record.name), text(record.favourite));
     for (const NxUndoRecord &step : contents.undoSteps) {
