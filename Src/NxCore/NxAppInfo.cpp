@@ -2,9 +2,8 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "NxAppInfo_p.h"
 
-#include "NxModulePath_p.h"
-
 #include <NxCore/NxLog.h>
+#include <NxCore/NxModulePath.h>
 
 #include <QDir>
 #include <QFileInfo>
@@ -25,7 +24,8 @@ QString userData()
 QString resources()
 {
     constexpr int levels = 3;
-    const QString library = nxModulePath();
+    static const char anchor = 0;
+    const QString library = nxModulePath(&anchor);
     QDir above = QFileInfo(library).dir();
     for (int i = 0; i < levels; ++i) {
         const QString candidate = above.filePath(QStringLiteral("share/brevano"));

@@ -2,7 +2,10 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #pragma once
 
+#include <NxCore/NxCoreExport.h>
+
 #include <QString>
 
-/// The absolute path of the file this library was loaded from; empty when the system does not say.
-[[nodiscard]] QString nxModulePath();
+/// The absolute path of the library or program that holds a piece of code or static data, as it
+/// was loaded; empty when the system does not say. Any thread.
+[[nodiscard]] NXCORE_EXPORT QString nxModulePath(const void *inside);

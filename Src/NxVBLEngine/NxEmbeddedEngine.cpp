@@ -5,13 +5,28 @@
 #include <NxCore/INxAppInfo.h>
 #include <NxCore/NxLog.h>
 #include <NxVBLEngine/NxEngineProject.h>
+#include <NxVBLEngine/disk/NxFileProbe.h>
 #include <NxVBLEngine/disk/NxPresenceKeeper.h>
 #include <NxVBLEngine/objects/NxProjectMemory.h>
+#include <NxVBLEngine/pictures/NxEngineThumbManager.h>
+#include <NxVBLEngine/pictures/NxPictureService.h>
+#include <NxVBLEngine/reading/NxFootageReader.h>
+#include <NxVBLEngine/reading/NxWorkerLocation.h>
 #include <NxVBLEngine/store/NxProjectStore.h>
 
 #include <QDir>
 #include <QEventLoop>
 #include <QFileInfo>
+#include <QStandardPaths>
+
+namespace {
+
+QString absolute(const QString &path)
+{
+    return QDir::cleanPath(QFileInfo(path).absoluteFilePath());
+}
+
+} // namespace
 
 class NxEmbeddedEnginePrivate
 {
@@ -33,14 +48,35 @@ public:
         return store;
     }
 
+    NxWorkerSettings workerSettings() const
+    {
+        NxWorkerSettings workers;
+        NxResult<QString> program = NxWorkerLocation::find();
+        workers.whyNone = program.errorText();
+        if (program)
+            workers.program = program.take();
+        workers.cacheFolder = options.pictureFolder.isEmpty()
+                                  ? QStandardPaths::writableLocation(QStandardPaths::CacheLocation)
+                                        + QStringLiteral("/Pictures")
+                                  : absolute(options.pictureFolder);
+        if (options.workers > 0)
+            workers.workers = options.workers;
+        workers.volumeRoots = &NxFileProbe::volumeRoots;
+        return workers;
+    }
+
     NxResult<INxProject *> takeOver(NxResult<std::unique_ptr<NxProjectStore>> store)
     {
         if (!store)
             return store.error();
-        NxResult<std::unique_ptr<NxEngineProject>> opened = NxEngineProject::open(store.take());
+        NxResult<std::unique_ptr<NxEngineProject>> opened =
+            NxEngineProject::open(store.take(), workerSettings());
         if (!opened)
             return opened.error();
         project = opened.take();
+        *pictures = project->pictureService();
+        if (options.readsFootage)
+            project->footageReader()->start();
         return static_cast<INxProject *>(project.get());
     }
 
@@ -53,16 +89,9 @@ public:
 
     const NxEmbeddedEngine::Options options;
     std::unique_ptr<NxEngineProject> project;
+    const NxEngineThumbManager::Current pictures =
+        std::make_shared<QPointer<NxPictureService>>();
 };
-
-namespace {
-
-QString absolute(const QString &path)
-{
-    return QDir::cleanPath(QFileInfo(path).absoluteFilePath());
-}
-
-} // namespace
 
 NxEmbeddedEngine::NxEmbeddedEngine() : NxEmbeddedEngine(Options()) {}
 
@@ -106,6 +135,11 @@ NxResult<void> NxEmbeddedEngine::closeProject()
 INxProject *NxEmbeddedEngine::currentProject()
 {
     return d->project.get();
+}
+
+INxBsThumbManager *NxEmbeddedEngine::createThumbManager()
+{
+    return new NxEngineThumbManager(d->pictures);
 }
 
 QString NxEmbeddedEngine::damage() const

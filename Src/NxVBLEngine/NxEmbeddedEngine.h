@@ -24,6 +24,14 @@ public:
         /// Where backups of older projects go. Empty: the user's data folder.
         QString backupFolder;
         bool backups = true;
+        /// Whether all footage of a project is read as soon as it is open. False: only what
+        /// INxProject::footageService() is asked for.
+        bool readsFootage = true;
+        /// Where covers and film strips are kept; may be emptied at any time. Empty: the user's
+        /// cache folder.
+        QString pictureFolder;
+        /// Programs that read footage side by side; 0: one per core.
+        int workers = 0;
     };
 
     NxEmbeddedEngine();
@@ -34,6 +42,7 @@ public:
     NxResult<INxProject *> openProject(const QString &path, NxProjectOpenMode mode) override;
     NxResult<void> closeProject() override;
     INxProject *currentProject() override;
+    INxBsThumbManager *createThumbManager() override;
 
     /// What could not be read when the current project was opened; empty when all could.
     [[nodiscard]] QString damage() const;

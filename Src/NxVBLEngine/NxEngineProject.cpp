@@ -11,31 +11,41 @@
 #include <NxVBLEngine/objects/NxEngineFolder.h>
 #include <NxVBLEngine/objects/NxEngineUndoStack.h>
 #include <NxVBLEngine/objects/NxProjectMemory.h>
+#include <NxVBLEngine/pictures/NxPictureService.h>
+#include <NxVBLEngine/reading/NxFootageReader.h>
 
 #include <QCoreApplication>
 #include <QThread>
 
 #include <algorithm>
+#include <utility>
 
 using namespace NXVBLMODEL;
 
-NxEngineProject::NxEngineProject() : NxEngineProject(nullptr)
+NxEngineProject::NxEngineProject(Workers workers) : NxEngineProject(nullptr, std::move(workers))
 {
     attachServices();
 }
 
-NxEngineProject::NxEngineProject(std::unique_ptr<NxProjectStore> store)
+NxEngineProject::NxEngineProject(std::unique_ptr<NxProjectStore> store, Workers workers)
     : m_store(std::move(store)),
       m_memory(std::make_unique<NxProjectMemory>(m_store ? m_store->path() : QString())),
       m_disk(std::make_shared<NxDiskThread>()),
       m_presence(std::make_unique<NxPresenceKeeper>(m_memory.get(), m_disk))
 {
+    if (!workers)
+        return;
+    m_memory->setPictureFolder(workers->cacheFolder);
+    m_reader = std::make_unique<NxFootageReader>(m_memory.get(), std::move(*workers));
+    m_pictures = std::make_unique<NxPictureService>(m_memory.get(), m_reader.get(),
+                                                    NxPictureService::Limits());
 }
 
 NxResult<std::unique_ptr<NxEngineProject>> NxEngineProject::open(
-    std::unique_ptr<NxProjectStore> store)
+    std::unique_ptr<NxProjectStore> store, Workers workers)
 {
-    std::unique_ptr<NxEngineProject> project(new NxEngineProject(std::move(store)));
+    std::unique_ptr<NxEngineProject> project(
+        new NxEngineProject(std::move(store), std::move(workers)));
     const NxResult<void> loaded = project->load();
     if (!loaded)
         return loaded.error();
@@ -92,12 +102,20 @@ void NxEngineProject::attachServices()
             return std::nullopt;
         return keeper->known(path);
     });
+    if (m_reader) {
+        QObject::connect(m_presence.get(), &NxPresenceKeeper::seen, m_reader.get(),
+                         &NxFootageReader::noteSeen);
+        QObject::connect(m_reader.get(), &NxFootageReader::looksWanted, m_presence.get(),
+                         &NxPresenceKeeper::lookAgain);
+    }
     m_presence->start();
 }
 
 void NxEngineProject::stopServices()
 {
     NxFile::setAnswerer({});
+    m_pictures.reset();
+    m_reader.reset(); // What its workers have not answered yet is read another time.
     m_presence.reset();
     for (const auto &importer : m_importers)
         importer->stopAll(); // Their jobs end with the last commit.
@@ -151,6 +169,11 @@ QString NxEngineProject::readOnlyReason() const
     if (!m_damage.isEmpty())
         return m_damage;
     return m_store ? m_store->readOnlyReason() : QString();
+}
+
+INxFootageService *NxEngineProject::footageService()
+{
+    return m_reader.get();
 }
 
 INxUndoStack *NxEngineProject::undoStack()

@@ -3,15 +3,19 @@
 #pragma once
 
 #include <NxVBLEngine/NxVBLEngineExport.h>
+#include <NxVBLEngine/reading/NxWorkerSettings.h>
 #include <NxVBLEngine/store/NxProjectStore.h>
 #include <NxVBLModel/INxMediaLibrary.h>
 #include <NxVBLModel/INxProject.h>
 
 #include <memory>
+#include <optional>
 #include <vector>
 
 class NxDiskThread;
 class NxEngineImporter;
+class NxFootageReader;
+class NxPictureService;
 class NxPresenceKeeper;
 class NxProjectMemory;
 
@@ -20,16 +24,23 @@ class NxProjectMemory;
 class NXVBLENGINE_TEST_EXPORT NxEngineProject final : public INxProject, public INxMediaLibrary
 {
 public:
+    /// How its files are read; nothing when they are not.
+    using Workers = std::optional<NxWorkerSettings>;
+
     /// A project without a file, for tests and previews.
-    NxEngineProject();
+    explicit NxEngineProject(Workers workers = {});
     /// Takes over an open store and loads it.
     [[nodiscard]] static NxResult<std::unique_ptr<NxEngineProject>> open(
-        std::unique_ptr<NxProjectStore> store);
+        std::unique_ptr<NxProjectStore> store, Workers workers = {});
     ~NxEngineProject() override;
 
     [[nodiscard]] NxProjectMemory *memory() const { return m_memory.get(); }
     [[nodiscard]] NxProjectStore *store() const { return m_store.get(); }
     [[nodiscard]] NxPresenceKeeper *presenceKeeper() const { return m_presence.get(); }
+    /// Null when nothing reads the project's files.
+    [[nodiscard]] NxFootageReader *footageReader() const { return m_reader.get(); }
+    /// Null when nothing reads the project's files.
+    [[nodiscard]] NxPictureService *pictureService() const { return m_pictures.get(); }
     /// True while somebody observes one of the managers.
     [[nodiscard]] bool isObserved() const;
     /// What could not be read of a damaged file; empty when all could.
@@ -42,12 +53,13 @@ public:
     QString readOnlyReason() const override;
     INxMediaLibrary *mediaLibrary() override { return this; }
     INxUndoStack *undoStack() override;
+    INxFootageService *footageService() override;
     void requestCommit(std::function<void(const NxResult<void> &)> done) override;
     void saveCopy(const QString &path, std::function<void(const NxResult<void> &)> done) override;
     INxMediaManager *mediaManager(NXVBLMODEL::NxMediaCategoryType category) override;
 
 private:
-    explicit NxEngineProject(std::unique_ptr<NxProjectStore> store);
+    NxEngineProject(std::unique_ptr<NxProjectStore> store, Workers workers);
     [[nodiscard]] NxResult<void> load();
     void attachStore();
     void attachServices();
@@ -58,6 +70,8 @@ private:
     std::unique_ptr<NxProjectMemory> m_memory;
     std::shared_ptr<NxDiskThread> m_disk;
     std::unique_ptr<NxPresenceKeeper> m_presence;
+    std::unique_ptr<NxFootageReader> m_reader;
+    std::unique_ptr<NxPictureService> m_pictures;
     std::vector<std::unique_ptr<NxEngineImporter>> m_importers;
     QString m_damage;
     QString m_writeFailure; // Why nothing is written any more.

@@ -7,6 +7,11 @@
 
 INxBsThumbManager::~INxBsThumbManager() = default;
 
+QImage INxBsThumbManager::filmStrip(INxAbstractMedia * /*media*/)
+{
+    return {};
+}
+
 INxBsThumbManager *createBsThumbManager()
 {
     INxMediaEngine *engine = NxMediaEngineDoor::engine();

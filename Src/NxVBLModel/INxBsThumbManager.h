@@ -18,6 +18,9 @@ public:
     /// The media's picture scaled to fit, in device pixels; null when it is not in memory yet. It
     /// is then fetched, and the observers are told that the media's state changed.
     [[nodiscard]] virtual QImage thumbnail(INxAbstractMedia *media, const QSize &devicePixels) = 0;
+    /// The media's film strip, frames 144 px wide stacked every 81 px; null when it is not in
+    /// memory yet, as above, or there is none.
+    [[nodiscard]] virtual QImage filmStrip(INxAbstractMedia *media);
     /// Forgets what was asked for and did not come yet; for a view that scrolls on.
     virtual void cancelRequests() = 0;
 };

@@ -26,6 +26,11 @@ INxUndoStack *INxProject::undoStack()
     return nullptr;
 }
 
+INxFootageService *INxProject::footageService()
+{
+    return nullptr;
+}
+
 QList<NxTimelineUse> INxProject::timelineUses(const QString &)
 {
     return {};

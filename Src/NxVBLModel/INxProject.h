@@ -10,6 +10,7 @@
 
 #include <functional>
 
+class INxFootageService;
 class INxMediaLibrary;
 class INxTimeline;
 class INxUndoStack;
@@ -30,6 +31,8 @@ public:
     [[nodiscard]] virtual INxMediaLibrary *mediaLibrary() = 0;
     /// Owned by the project; null when changes cannot be undone.
     [[nodiscard]] virtual INxUndoStack *undoStack();
+    /// What reads the project's files; owned by the project, null when nothing does.
+    [[nodiscard]] virtual INxFootageService *footageService();
     /// Where timelines use a media; empty when nowhere.
     [[nodiscard]] virtual QList<NxTimelineUse> timelineUses(const QString &mediaId);
     [[nodiscard]] virtual QList<INxTimeline *> timelines();

@@ -22,9 +22,19 @@ bool isThere(const QString &path)
     return info.exists() || info.isSymLink();
 }
 
+NxEmbeddedEngine::Options engineOptions()
+{
+    NxEmbeddedEngine::Options options;
+    options.readsFootage = false; // A command ends when its work is done.
+    return options;
+}
+
 } // namespace
 
-ProjectSession::ProjectSession(Console *console) : m_console(console), m_door(&m_engine) {}
+ProjectSession::ProjectSession(Console *console)
+    : m_console(console), m_engine(engineOptions()), m_door(&m_engine)
+{
+}
 
 ProjectSession::~ProjectSession()
 {
@@ -57,11 +67,11 @@ bool ProjectSession::open(const ProgramArgument &project, Access access)
 {
     if (!isUsablePath(project))
         return false;
-    const bool toChange = access == Access::Change;
+    const bool toChange = access != Access::Look;
     const auto mode = toChange ? NxProjectOpenMode::ReadWrite : NxProjectOpenMode::ReadOnly;
     if (!take(m_engine.openProject(QFileInfo(m_path).absoluteFilePath(), mode)))
         return false;
-    return !toChange || canChange();
+    return access != Access::Change || canChange();
 }
 
 bool ProjectSession::openOrCreate(const ProgramArgument &project)
@@ -150,6 +160,11 @@ INxMediaItemManager *ProjectSession::items() const
 INxMediaImporter *ProjectSession::importer() const
 {
     return manager()->importer();
+}
+
+INxFootageService *ProjectSession::footage() const
+{
+    return m_project->footageService();
 }
 
 QList<INxFolderMedia *> ProjectSession::sections() const

@@ -12,6 +12,7 @@
 class Console;
 class INxFolderMedia;
 class INxFolderMediaManager;
+class INxFootageService;
 class INxMediaImporter;
 class INxMediaItemManager;
 class INxMediaManager;
@@ -24,6 +25,7 @@ public:
     enum class Access {
         Look, ///< Works beside another process that holds the project.
         Change,
+        ChangeIfFree, ///< To change it; beside another process that holds it, only to look.
     };
 
     explicit ProjectSession(Console *console);
@@ -52,6 +54,8 @@ public:
         NXVBLMODEL::NxMediaCategoryType category = NXVBLMODEL::mctMedia) const;
     [[nodiscard]] INxMediaItemManager *items() const;
     [[nodiscard]] INxMediaImporter *importer() const;
+    /// What reads the footage; only what it is asked to.
+    [[nodiscard]] INxFootageService *footage() const;
     /// The sections in their order.
     [[nodiscard]] QList<INxFolderMedia *> sections() const;
     /// Whether the file is damaged; what is wrong with it was said when it was opened.

@@ -88,6 +88,7 @@ NxFolderAnswer NxPresenceCheck::answer(
 {
     NxFolderAnswer answer;
     answer.folder = question.folder;
+    answer.isWhole = question.isWhole;
     answer.state = stateOf(disk.look(question.path));
     if (!answer.state.exists)
         answer.state.missingAncestor = highestMissing(question.path, disk, pulse);
@@ -102,7 +103,5 @@ NxFolderAnswer NxPresenceCheck::answer(
 
 bool NxPresenceCheck::hasChanged(const NxFolderPoll &poll, const NxPresenceDisk &disk)
 {
-    const NxFolderState now = stateOf(disk.look(poll.path));
-    return now.exists != poll.known.exists || now.device != poll.known.device
-        || now.inode != poll.known.inode || now.modified != poll.known.modified;
+    return stateOf(disk.look(poll.path)).differsFrom(poll.known);
 }

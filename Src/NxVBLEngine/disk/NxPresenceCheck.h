@@ -49,6 +49,13 @@ struct NxFolderState
     /// tick of the file system's clock.
     bool settled = false;
     QString missingAncestor; ///< The highest folder on the way to it that is missing.
+
+    /// Something was put into it or taken out, or it is another folder by now.
+    [[nodiscard]] bool differsFrom(const NxFolderState &other) const
+    {
+        return exists != other.exists || device != other.device || inode != other.inode
+            || modified != other.modified;
+    }
 };
 
 /// Files of one folder to be looked at.
@@ -57,6 +64,7 @@ struct NxFolderQuestion
     int folder = 0;
     QString path;
     QVector<NxFileQuestion> files;
+    bool isWhole = true; ///< All files of the folder are looked at, be it in several questions.
 };
 
 struct NxFolderAnswer
@@ -64,6 +72,7 @@ struct NxFolderAnswer
     int folder = 0;
     NxFolderState state;
     QVector<NxFileAnswer> files;
+    bool isWhole = true; ///< As asked.
 };
 
 /// A folder, or the highest missing one above it, to be compared with what is known of it.

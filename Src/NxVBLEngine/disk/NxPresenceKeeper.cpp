@@ -19,6 +19,7 @@ namespace {
 constexpr int RoundInterval = 2'000; // ms
 constexpr int PollsPerRound = NxWatchedFolders::LooksPerSecond * RoundInterval / 1'000;
 constexpr int FilesPerCheck = 1'000;
+constexpr int FilesPerRound = 1'000;
 constexpr qint64 LongestSlice = 6; // ms
 
 } // namespace
@@ -101,6 +102,12 @@ void NxPresenceKeeper::refreshNow(std::function<void()> done)
     m_pumpTimer.start();
 }
 
+void NxPresenceKeeper::lookAgain(const std::vector<qint64> &media)
+{
+    m_folders.wantMedia(media);
+    m_pumpTimer.start();
+}
+
 std::optional<bool> NxPresenceKeeper::known(const QString &path) const
 {
     if (QThread::currentThread() != thread())
@@ -128,6 +135,7 @@ void NxPresenceKeeper::beginRound()
 {
     askVolumes();
     m_folders.wantUncertain(m_clock.elapsed());
+    m_folders.wantNext(FilesPerRound);
     m_pumpTimer.start();
     poll();
 }
@@ -317,7 +325,10 @@ void NxPresenceKeeper::apply(const NxFileAnswer &answer)
     if (answer.presence == NxPresence::Present)
         m_memory->setFileFacts(
             media, answer.facts.size, answer.facts.created, answer.facts.modified);
+    const QPointer<NxPresenceKeeper> self(this);
     m_memory->setPresence(media, answer.presence);
+    if (self && answer.presence == NxPresence::Present)
+        Q_EMIT seen(answer.media, {answer.facts.size, answer.facts.modified});
 }
 
 bool NxPresenceKeeper::isSettled() const

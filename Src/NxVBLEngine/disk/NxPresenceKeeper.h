@@ -5,6 +5,7 @@
 #include <NxVBLEngine/NxVBLEngineExport.h>
 #include <NxVBLEngine/disk/NxPresenceCheck.h>
 #include <NxVBLEngine/disk/NxWatchedFolders.h>
+#include <NxWorkerProtocol/NxFootageFacts.h>
 
 #include <NxCore/NxDoorbell.h>
 
@@ -29,7 +30,8 @@ struct NxChange;
 ///
 /// Looks at every file once on the disk thread, then compares the folders they lie in every two
 /// seconds, some thousand a round, and looks again where something changed: a file that went or
-/// came back shows within five seconds. Media come and go with their volume, and are never
+/// came back shows within five seconds. What is written into a file changes no folder, so each
+/// round also looks at the next thousand files. Media come and go with their volume, and are never
 /// removed. A drive that does not answer marks only what lies on it, until it answers.
 /// GUI thread only.
 class NXVBLENGINE_TEST_EXPORT NxPresenceKeeper final : public QObject
@@ -48,9 +50,15 @@ public:
     void start();
     /// Looks at every file again; `done` runs when all answers are in, or will not come.
     void refreshNow(std::function<void()> done);
+    /// Looks at the files of these media now.
+    void lookAgain(const std::vector<qint64> &media);
     /// Whether the file of a media of the project is there, as last seen; what was not looked at
     /// yet counts as there. Nothing for other paths. Never touches a disk.
     [[nodiscard]] std::optional<bool> known(const QString &path) const;
+
+Q_SIGNALS:
+    /// The file of a media is there, and was like this a moment ago.
+    void seen(qint64 media, const NxFileStamp &stamp);
 
 private:
     struct News;

@@ -9,6 +9,7 @@
 #include <QFileInfo>
 
 #include <algorithm>
+#include <cstddef>
 #include <utility>
 
 namespace {
@@ -119,6 +120,30 @@ void NxWatchedFolders::wantUncertain(qint64 now)
     }
 }
 
+void NxWatchedFolders::wantNext(int most)
+{
+    if (isAnythingWanted())
+        return;
+    int room = most;
+    for (size_t visited = 0; visited < m_folders.size() && room > 0; ++visited) {
+        m_nextFolder %= m_folders.size();
+        const Folder &folder = m_folders[m_nextFolder];
+        const size_t from = std::min(m_nextFile, folder.media.size());
+        const size_t to = std::min(from + size_t(room), folder.media.size());
+        if (to > from) {
+            const auto first = folder.media.begin();
+            m_wanted.push_back({int(m_nextFolder), false, true,
+                {first + std::ptrdiff_t(from), first + std::ptrdiff_t(to)}, 0});
+            room -= int(to - from);
+        }
+        m_nextFile = to;
+        if (to < folder.media.size())
+            return;
+        ++m_nextFolder;
+        m_nextFile = 0;
+    }
+}
+
 void NxWatchedFolders::wantNothing()
 {
     m_wanted.clear();
@@ -179,7 +204,7 @@ QVector<NxFolderQuestion> NxWatchedFolders::takeQuestions(int mostFiles, QString
             *volume = folder.volume;
             if (!wanted.isBegun)
                 begin(&wanted);
-            NxFolderQuestion question{wanted.folder, folder.path, {}};
+            NxFolderQuestion question{wanted.folder, folder.path, {}, wanted.isWhole};
             appendFiles(&wanted, room, &question);
             room -= question.files.size() + 1; // The folder itself is a look, too.
             if (!question.files.isEmpty())
@@ -211,8 +236,14 @@ void NxWatchedFolders::setMissingAncestor(int index, const QString &ancestor)
 
 void NxWatchedFolders::note(const NxFolderAnswer &answer, qint64 now)
 {
-    setMissingAncestor(answer.folder, answer.state.missingAncestor);
     Folder &folder = m_folders[size_t(answer.folder)];
+    const bool hidesChange
+        = !answer.isWhole && folder.lastLook != 0 && answer.state.differsFrom(folder.state);
+    if (hidesChange) {
+        want(answer.folder); // Some of its files were not looked at since.
+        return;
+    }
+    setMissingAncestor(answer.folder, answer.state.missingAncestor);
     folder.state = answer.state;
     folder.lastLook = now;
     const auto isTrouble = [](const NxFileAnswer &file) {

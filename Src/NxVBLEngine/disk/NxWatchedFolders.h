@@ -43,6 +43,8 @@ public:
     void wantMedia(const std::vector<qint64> &media);
     /// Wants the folders looked at whose last answer was not the last word; `now` in ms.
     void wantUncertain(qint64 now);
+    /// Wants the next files looked at, in turn; none while others are wanted.
+    void wantNext(int most);
     [[nodiscard]] bool isAnythingWanted() const { return !m_wanted.empty(); }
     void wantNothing();
 
@@ -98,4 +100,6 @@ private:
     QSet<int> m_uncertain;
     QHash<QString, QSet<int>> m_awayByAncestor; // Missing folders by the highest missing one.
     int m_nextPoll = 0;
+    size_t m_nextFolder = 0; // Where wantNext() goes on.
+    size_t m_nextFile = 0;
 };

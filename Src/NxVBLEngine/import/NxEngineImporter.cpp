@@ -224,7 +224,7 @@ void NxEngineImporter::goOnToEnd()
     const quint64 number = job.number();
     const QPointer<NxEngineImporter> self(this);
     if (m_sinceProgress.hasExpired(ProgressInterval))
-        tellProgress(job);
+        tellProgress(&job);
     if (self && currentJob(number))
         askCommit();
 }
@@ -274,7 +274,7 @@ void NxEngineImporter::onCommitted(quint64 number, const std::vector<qint64> &me
         tellAdded(number, media);
     // Whoever was told may have done anything.
     if (self && currentJob(number) && !media.empty())
-        tellProgress(*currentJob(number));
+        tellProgress(currentJob(number));
     if (!self || !currentJob(number))
         return;
     if (isLast)
@@ -296,10 +296,10 @@ void NxEngineImporter::tellAdded(quint64 number, const std::vector<qint64> &medi
         Q_EMIT this->added(number, items);
 }
 
-void NxEngineImporter::tellProgress(const NxImportJob &job)
+void NxEngineImporter::tellProgress(NxImportJob *job)
 {
     m_sinceProgress.start();
-    Q_EMIT progress(job.number(), quint64(job.found()), job.saved(), 0);
+    Q_EMIT progress(job->number(), job->found(), job->saved(), job->read());
 }
 
 void NxEngineImporter::finish()

@@ -68,7 +68,7 @@ private:
     void onCommitted(quint64 number, const std::vector<qint64> &media, bool isLast,
         const NxResult<void> &result);
     void tellAdded(quint64 number, const std::vector<qint64> &media);
-    void tellProgress(const NxImportJob &job);
+    void tellProgress(NxImportJob *job);
     void finish();
 
     NxProjectMemory *const m_memory; // Not owned, as are category and store.

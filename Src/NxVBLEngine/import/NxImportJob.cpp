@@ -11,6 +11,7 @@
 #include <QElapsedTimer>
 
 #include <algorithm>
+#include <cstddef>
 #include <iterator>
 #include <utility>
 
@@ -188,6 +189,21 @@ void NxImportJob::conclude()
 }
 
 // Report
+
+qint64 NxImportJob::read()
+{
+    const auto isRead = [this](qint64 id) {
+        const NxEngineMedia *media = m_memory->media(id);
+        return !media || media->readState() != NxReadState::Unread;
+    };
+    while (m_readInARow < m_allAdded.size() && isRead(m_allAdded[m_readInARow]))
+        ++m_readInARow;
+    constexpr size_t reach = 1'000; // What is visible is read out of turn, but not by thousands.
+    const size_t end = std::min(m_allAdded.size(), m_readInARow + reach);
+    const auto first = m_allAdded.begin();
+    return qint64(m_readInARow)
+        + std::count_if(first + std::ptrdiff_t(m_readInARow), first + std::ptrdiff_t(end), isRead);
+}
 
 std::vector<qint64> NxImportJob::takeFresh()
 {

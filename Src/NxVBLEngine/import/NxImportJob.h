@@ -59,6 +59,8 @@ public:
 
     [[nodiscard]] qint64 found() const { return m_report.found; }
     [[nodiscard]] qint64 saved() const { return m_report.added; }
+    /// Added media whose files have been read since, be it in vain.
+    [[nodiscard]] qint64 read();
     /// Final when the job is over.
     [[nodiscard]] NxImportReport report() const;
 
@@ -127,6 +129,7 @@ private:
     qint64 m_firstAdded = 0;
     std::vector<qint64> m_fresh;
     std::vector<qint64> m_allAdded;
+    size_t m_readInARow = 0; // Of those, from the first on: files are read in their order.
     QSet<qint64> m_known; // Media reported as being there already.
     QSet<QString> m_unreadable; // Canonical paths.
     QSet<int> m_touched; // Folders that got media.

@@ -64,6 +64,7 @@ private Q_SLOTS:
     void theHighestMissingFolderIsFound();
     void movedFilesAreFoundBesideTheProject();
     void aFolderChangedJustNowIsNotSettled();
+    void anAnswerIsAsWholeAsItsQuestion();
     void changesAreSeenByTimeAndIdentity_data();
     void changesAreSeenByTimeAndIdentity();
 };
@@ -164,6 +165,18 @@ void tst_NxPresenceCheck::aFolderChangedJustNowIsNotSettled()
                 .state.settled);
     QVERIFY(!NxPresenceCheck::answer(question(QStringLiteral("/new"), {}), made.disk(), pulse)
                  .state.settled);
+}
+
+void tst_NxPresenceCheck::anAnswerIsAsWholeAsItsQuestion()
+{
+    MadeUpDisk made;
+    made.add("/f", NxFileKind::Folder);
+    NxDiskPulse pulse;
+    NxFolderQuestion asked = question(QStringLiteral("/f"), {QStringLiteral("a")});
+    for (const bool isWhole : {true, false}) {
+        asked.isWhole = isWhole;
+        QCOMPARE(NxPresenceCheck::answer(asked, made.disk(), pulse).isWhole, isWhole);
+    }
 }
 
 void tst_NxPresenceCheck::changesAreSeenByTimeAndIdentity_data()

@@ -21,6 +21,7 @@
 #include <QTimer>
 
 #include <atomic>
+#include <memory>
 #include <thread>
 
 namespace {
@@ -110,6 +111,33 @@ private:
     NxEngineCategory *const m_category;
 };
 
+/// Everything a keeper tells of files that are there.
+struct Seen
+{
+    explicit Seen(NxPresenceKeeper *keeper)
+    {
+        QObject::connect(keeper, &NxPresenceKeeper::seen, keeper,
+            [this](qint64 media, const NxFileStamp &stamp) { all.append({media, stamp}); });
+    }
+    [[nodiscard]] QVector<qint64> sizes(const NxEngineMedia *media) const
+    {
+        QVector<qint64> sizes;
+        for (const auto &[id, stamp] : all) {
+            if (id == media->id())
+                sizes.append(stamp.size);
+        }
+        return sizes;
+    }
+    QVector<QPair<qint64, NxFileStamp>> all;
+};
+
+void append(const QString &path, const QByteArray &bytes)
+{
+    QFile file(path);
+    if (!file.open(QIODevice::Append) || file.write(bytes) != bytes.size())
+        qFatal("%s cannot be written", qUtf8Printable(path));
+}
+
 constexpr int NoticedWithin = 5'000; // ms
 
 } // namespace
@@ -137,6 +165,10 @@ private Q_SLOTS:
     void refreshOfNothingIsDoneLater();
     void slowObserversDoNotHoldTheEventLoop();
     void aFewLooksAtRest();
+    void filesThatAreThereAreToldOf();
+    void singleFilesAreLookedAtAgain();
+    void whatIsWrittenIntoAFileIsNoticed();
+    void theKeeperMayDieWhenItTellsOfAFile();
     void theKeeperMayDieAtAnyTime();
     void theFootageIsNotTouched();
 };
@@ -438,6 +470,75 @@ void tst_NxPresenceKeeper::aFewLooksAtRest()
     const int before = disk.state->looks;
     QTRY_VERIFY_WITH_TIMEOUT(disk.state->looks > before, NoticedWithin); // A round went by.
     QVERIFY2(disk.state->looks <= before + 3, "three hundred files are away with one folder");
+}
+
+void tst_NxPresenceKeeper::filesThatAreThereAreToldOf()
+{
+    const NxTempDir dir;
+    Watch f;
+    const Seen seen(&f.keeper);
+    const QString path = dir.write(QStringLiteral("a.mp4"), QByteArray(99, 'x'));
+    const NxEngineMedia *there = f.add(path);
+    f.add(dir.filePath(QStringLiteral("gone.mp4")));
+    f.add(dir.makeDir(QStringLiteral("folder.mp4")));
+    QVERIFY(f.refresh());
+    QVERIFY(!seen.all.isEmpty());
+    for (const auto &[media, stamp] : seen.all) {
+        QCOMPARE(media, there->id());
+        QCOMPARE(stamp.size, 99);
+        QCOMPARE(stamp.modified, NxFileProbe::look(path).modified);
+    }
+    QCOMPARE(there->sourceSize(), 99); // The project knows it before anybody is told.
+}
+
+void tst_NxPresenceKeeper::singleFilesAreLookedAtAgain()
+{
+    const NxTempDir dir;
+    Watch f;
+    const NxEngineMedia *first = f.add(dir.write(QStringLiteral("a.mp4")));
+    const NxEngineMedia *second = f.add(dir.write(QStringLiteral("b.mp4")));
+    QVERIFY(f.refresh());
+    append(first->filePath(), "more");
+    append(second->filePath(), "more");
+    const Seen seen(&f.keeper);
+    f.keeper.lookAgain({second->id(), 999});
+    QTRY_VERIFY(!seen.all.isEmpty());
+    QCOMPARE(seen.all.first().first, second->id()); // In its turn the other would come first.
+    QCOMPARE(seen.sizes(second).first(), 5);
+    QCOMPARE(second->sourceSize(), 5);
+}
+
+void tst_NxPresenceKeeper::whatIsWrittenIntoAFileIsNoticed()
+{
+    const NxTempDir dir;
+    Watch f;
+    QVector<NxEngineMedia *> media;
+    for (int i = 0; i < 50; ++i)
+        media.append(f.add(dir.write(QStringLiteral("%1/%2.mp4").arg(i % 5).arg(i))));
+    QVERIFY(f.refresh());
+    const Seen seen(&f.keeper);
+    append(media.at(7)->filePath(), "more"); // Its folder is as it was.
+    append(media.at(49)->filePath(), "still more");
+    QTRY_VERIFY_WITH_TIMEOUT(seen.sizes(media.at(7)).contains(5), NoticedWithin);
+    QTRY_VERIFY_WITH_TIMEOUT(seen.sizes(media.at(49)).contains(11), NoticedWithin);
+}
+
+void tst_NxPresenceKeeper::theKeeperMayDieWhenItTellsOfAFile()
+{
+    const NxTempDir dir;
+    Watch f;
+    for (int i = 0; i < 20; ++i)
+        f.add(dir.write(QStringLiteral("%1.mp4").arg(i)));
+    auto keeper = std::make_unique<NxPresenceKeeper>(&f.memory, f.disk);
+    int told = 0;
+    connect(keeper.get(), &NxPresenceKeeper::seen, this, [&] {
+        ++told;
+        keeper.reset();
+    });
+    keeper->start();
+    QTRY_VERIFY(!keeper);
+    QCoreApplication::processEvents();
+    QCOMPARE(told, 1);
 }
 
 void tst_NxPresenceKeeper::theKeeperMayDieAtAnyTime()

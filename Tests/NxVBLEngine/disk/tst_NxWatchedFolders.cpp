@@ -52,6 +52,17 @@ struct Watch : EngineFixture
         answer.files.append(file);
         watched.note(answer, now);
     }
+    /// Answers for some files of a folder that was last changed at that time.
+    void partialAnswer(int folder, qint64 modified)
+    {
+        NxFolderAnswer answer;
+        answer.folder = folder;
+        answer.isWhole = false;
+        answer.state.exists = true;
+        answer.state.settled = true;
+        answer.state.modified = modified;
+        watched.note(answer, now);
+    }
     QStringList polls(int most = 100)
     {
         QStringList paths;
@@ -81,6 +92,11 @@ private Q_SLOTS:
     void removedAndRelinkedMediaAreNotAsked();
     void aFolderWantedAgainBeginsAnew();
     void singleMediaAreAskedAlone();
+    void filesAreAskedInTurn();
+    void filesAreAskedInTurnWhenNothingElseIsWanted();
+    void inTurnOnlyFilesThatAreInReach();
+    void aPartialAnswerThatHidesAChangeIsFollowedByAWholeOne();
+    void partialQuestionsSayThatTheyAre();
     void lostVolumesAreLeftAloneUntilFound();
     void missingFoldersArePolledAtTheirHighestMissing();
     void presentFoldersArePolledInTurn();
@@ -168,6 +184,88 @@ void tst_NxWatchedFolders::singleMediaAreAskedAlone()
     QCOMPARE(f.take(), QString());
     f.watched.wantAll();
     QCOMPARE(f.take(), QStringLiteral("/: /f(a) /footage(b)"));
+}
+
+void tst_NxWatchedFolders::filesAreAskedInTurn()
+{
+    Watch f;
+    f.watched.wantNext(3);
+    QCOMPARE(f.take(), QString()); // There are no folders.
+    for (int i = 0; i < 5; ++i)
+        f.media(QStringLiteral("/f/%1").arg(i));
+    f.media(QStringLiteral("/g/x"));
+    f.media(QStringLiteral("/h/y"));
+    const QStringList turns{QStringLiteral("/: /f(0 1 2)"), QStringLiteral("/: /f(3 4) /g(x)"),
+        QStringLiteral("/: /h(y) /f(0 1)"), QStringLiteral("/: /f(2 3 4)")};
+    for (const QString &turn : turns) {
+        f.watched.wantNext(3);
+        QCOMPARE(f.take(), turn);
+        QVERIFY(!f.watched.isAnythingWanted());
+    }
+    f.watched.wantNext(100);
+    QCOMPARE(f.take(), QStringLiteral("/: /g(x) /h(y) /f(0 1 2 3 4)"));
+}
+
+void tst_NxWatchedFolders::filesAreAskedInTurnWhenNothingElseIsWanted()
+{
+    Watch f;
+    f.media(QStringLiteral("/f/a"));
+    f.media(QStringLiteral("/g/b"));
+    f.watched.want(1);
+    f.watched.wantNext(1);
+    QCOMPARE(f.take(), QStringLiteral("/: /g(b)"));
+    f.watched.wantNext(1);
+    QCOMPARE(f.take(), QStringLiteral("/: /f(a)"));
+}
+
+void tst_NxWatchedFolders::inTurnOnlyFilesThatAreInReach()
+{
+    Watch f;
+    NxEngineMedia *removed = f.media(QStringLiteral("/f/a"));
+    f.media(QStringLiteral("/f/b"));
+    f.media(QStringLiteral("/mnt/usb/c"));
+    QVERIFY(f.items->removeMediaItems(f.section, {removed}));
+    QCOMPARE(f.watched.loseVolume(QStringLiteral("/mnt/usb")).size(), size_t(1));
+    f.watched.wantNext(10);
+    QCOMPARE(f.take(), QStringLiteral("/: /f(b)"));
+    QVERIFY(!f.watched.isAnythingWanted());
+}
+
+void tst_NxWatchedFolders::aPartialAnswerThatHidesAChangeIsFollowedByAWholeOne()
+{
+    Watch f;
+    f.media(QStringLiteral("/f/a"));
+    f.media(QStringLiteral("/f/b"));
+    f.partialAnswer(0, 1'000); // Nothing was known to compare it with.
+    QCOMPARE(f.take(), QString());
+    f.partialAnswer(0, 1'000);
+    QCOMPARE(f.take(), QString());
+    f.partialAnswer(0, 2'000);
+    QCOMPARE(f.take(), QStringLiteral("/: /f(a b)"));
+    f.partialAnswer(0, 2'000); // Still unknown what changed: the whole look did not come yet.
+    QCOMPARE(f.take(), QStringLiteral("/: /f(a b)"));
+    NxFolderAnswer whole;
+    whole.state.exists = whole.state.settled = true;
+    whole.state.modified = 2'000;
+    f.watched.note(whole, f.now);
+    f.partialAnswer(0, 2'000);
+    QCOMPARE(f.take(), QString());
+}
+
+void tst_NxWatchedFolders::partialQuestionsSayThatTheyAre()
+{
+    Watch f;
+    NxEngineMedia *media = f.media(QStringLiteral("/f/a"));
+    const auto isWhole = [&f] {
+        QString volume;
+        return f.watched.takeQuestions(10, &volume).first().isWhole;
+    };
+    f.watched.wantAll();
+    QVERIFY(isWhole());
+    f.watched.wantMedia({media->id()});
+    QVERIFY(!isWhole());
+    f.watched.wantNext(1);
+    QVERIFY(!isWhole());
 }
 
 void tst_NxWatchedFolders::lostVolumesAreLeftAloneUntilFound()

@@ -1,0 +1,278 @@
+// SPDX-FileCopyrightText: 2026 Brevano contributors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+
+// Reading footage through the workers, as a window does it: starting them, the pipe, and what the
+// answers cost the event loop are all in. The bound of facts is a full analysis of every file's
+// streams, one after the other in one process.
+
+#include <NxMediaLibrary/NxMediaDataModel/NxMediaItemModel.h>
+#include <NxVBLEngine/NxEngineProject.h>
+#include <NxVBLEngine/disk/NxFileProbe.h>
+#include <NxVBLEngine/objects/NxEngineCategory.h>
+#include <NxVBLEngine/objects/NxEngineFolder.h>
+#include <NxVBLEngine/objects/NxProjectMemory.h>
+#include <NxVBLEngine/reading/NxFootageReader.h>
+#include <NxVBLEngine/reading/NxWorkerLocation.h>
+#include <NxVBLModel/INxMediaImporter.h>
+#include <brevano-worker/input/Container.h>
+#include <brevano-worker/input/FootageFile.h>
+
+#include <QDir>
+#include <QDirIterator>
+#include <QElapsedTimer>
+#include <QEventLoop>
+#include <QFile>
+#include <QFileInfo>
+#include <QGuiApplication>
+#include <QProcess>
+#include <QTemporaryDir>
+#include <QTimer>
+
+#include <benchmark/benchmark.h>
+
+#include <algorithm>
+#include <memory>
+#include <unistd.h>
+
+extern "C" {
+#include <libavutil/log.h>
+}
+
+namespace {
+
+constexpr int Clips = 10'000;
+constexpr int ClipsPerFolder = 1'000;
+constexpr int PictureRounds = 4;
+constexpr double NanosecondsPerMillisecond = 1e6;
+constexpr double MillisecondsPerSecond = 1e3;
+
+[[noreturn]] void giveUp(const QString &why)
+{
+    qFatal("%s", qUtf8Printable(why));
+}
+
+double milliseconds(const QElapsedTimer &timer)
+{
+    return double(timer.nsecsElapsed()) / NanosecondsPerMillisecond;
+}
+
+const QTemporaryDir &workFolder()
+{
+    static const QTemporaryDir dir;
+    return dir;
+}
+
+/// The sample set that ./run makes.
+const QString &samples()
+{
+    static const QString path = [] {
+        const QString target = workFolder().filePath(QStringLiteral("samples"));
+        const QString maker = QStringLiteral(NX_SOURCE_DIR "/Packaging/make-samples");
+        if (QProcess::execute(maker, {target}) != 0)
+            giveUp(maker);
+        return target;
+    }();
+    return path;
+}
+
+QStringList filesOf(const QString &folder)
+{
+    QStringList files;
+    QDirIterator each(folder, QDir::Files, QDirIterator::Subdirectories);
+    while (each.hasNext())
+        files += each.next();
+    files.sort();
+    return files;
+}
+
+/// So many links to the files of the sample set, in folders.
+QString linkedFootage(const QString &name, int clips)
+{
+    const QStringList originals = filesOf(samples());
+    const QString root = workFolder().filePath(name);
+    for (int number = 0; number < clips; ++number) {
+        const QString folder = QStringLiteral("%1/Shoot %2").arg(root).arg(number / ClipsPerFolder);
+        const QString original = originals.at(number % originals.size());
+        const QString link = QStringLiteral("%1/%2 %3.%4")
+                                 .arg(folder, QFileInfo(original).completeBaseName())
+                                 .arg(number)
+                                 .arg(QFileInfo(original).suffix());
+        if (!QDir().mkpath(folder)
+            || ::link(QFile::encodeName(original).constData(), QFile::encodeName(link).constData())
+                   != 0)
+            giveUp(link);
+    }
+    return root;
+}
+
+double analyseAll(const QStringList &files)
+{
+    QElapsedTimer timer;
+    timer.start();
+    for (const QString &path : files) {
+        const auto file = FootageFile::open(QFile::encodeName(path));
+        if (!file)
+            giveUp(path);
+        const auto container = Container::open(file->get());
+        // What is no container costs the bound nothing more.
+        if (container)
+            benchmark::DoNotOptimize((*container)->analyse());
+    }
+    return milliseconds(timer);
+}
+
+/// Measures the longest time between two turns of the event loop.
+class Heartbeat
+{
+public:
+    Heartbeat()
+    {
+        QObject::connect(&m_timer, &QTimer::timeout, &m_timer, [this] {
+            m_longest = std::max(m_longest, milliseconds(m_last));
+            m_last.start();
+        });
+        m_timer.setTimerType(Qt::PreciseTimer);
+        m_last.start();
+        m_timer.start(1);
+    }
+    [[nodiscard]] double longest() const { return m_longest; }
+
+private:
+    QTimer m_timer;
+    QElapsedTimer m_last;
+    double m_longest = 0;
+};
+
+NxWorkerSettings workerSettings(int workers)
+{
+    NxWorkerSettings settings;
+    const NxResult<QString> program = NxWorkerLocation::find();
+    if (!program)
+        giveUp(program.errorText());
+    static int count = 0;
+    settings.program = *program;
+    settings.cacheFolder = workFolder().filePath(QStringLiteral("cache %1").arg(++count));
+    settings.workers = workers;
+    settings.volumeRoots = &NxFileProbe::volumeRoots;
+    return settings;
+}
+
+/// A project in memory with all files of a folder, none of them read.
+class Project
+{
+public:
+    Project(const QString &footage, int workers) : m_project(workerSettings(workers))
+    {
+        NxEngineCategory *category = m_project.memory()->category(NXVBLMODEL::mctMedia);
+        m_section = category->folder(NXVBLMODEL::fidRoot);
+        INxMediaImporter *importer = category->importer();
+        QEventLoop loop;
+        QObject::connect(importer, &INxMediaImporter::finished, &loop, &QEventLoop::quit);
+        importer->start(m_section, {footage}, NXVBLMODEL::mitFiles);
+        loop.exec();
+    }
+    [[nodiscard]] NxFootageReader *reader() const { return m_project.footageReader(); }
+    [[nodiscard]] NxEngineFolder *section() const { return m_section; }
+    [[nodiscard]] INxMediaManager *manager() const
+    {
+        return m_project.memory()->category(NXVBLMODEL::mctMedia);
+    }
+    [[nodiscard]] QList<INxAbstractMediaItem *> items() const
+    {
+        QList<INxAbstractMediaItem *> all;
+        for (NxEngineMedia *media : m_project.memory()->livingMedia())
+            all.append(media);
+        return all;
+    }
+    /// Until everything is idle.
+    double read(int wishes) const
+    {
+        QEventLoop loop;
+        QObject::connect(reader(), &NxFootageReader::idle, &loop, &QEventLoop::quit);
+        QElapsedTimer timer;
+        timer.start();
+        reader()->want(items(), wishes);
+        loop.exec();
+        return milliseconds(timer);
+    }
+
+private:
+    NxEngineProject m_project;
+    NxEngineFolder *m_section = nullptr;
+};
+
+void factsOfSamples(benchmark::State &state)
+{
+    const QStringList files = filesOf(samples());
+    double ratios = 0;
+    int rounds = 0;
+    for (auto _ : state) {
+        Q_UNUSED(_)
+        const double bound = analyseAll(files);
+        const Project project(samples(), QThread::idealThreadCount());
+        const double spent = project.read(INxFootageService::wFacts);
+        state.SetIterationTime(spent / MillisecondsPerSecond);
+        ratios += spent / bound;
+        ++rounds;
+    }
+    state.counters["files"] = double(files.size());
+    state.counters["times_full_analysis"] = ratios / rounds;
+}
+
+void factsOfTenThousandClips(benchmark::State &state)
+{
+    const QString footage = linkedFootage(QStringLiteral("many"), Clips);
+    double longest = 0;
+    for (auto _ : state) {
+        Q_UNUSED(_)
+        const Project project(footage, QThread::idealThreadCount());
+        NxMediaItemModel model(NXVBLMODEL::mctMedia, nullptr);
+        model.subscribeMediaItemManager(project.manager()->itemManager());
+        model.setSortEnable(true);
+        model.setSortBy({NXMEDIALIBRARY::sbName, NXMEDIALIBRARY::soASC});
+        model.load(project.section());
+        const Heartbeat heart;
+        state.SetIterationTime(project.read(INxFootageService::wFacts) / MillisecondsPerSecond);
+        longest = std::max(longest, heart.longest());
+        model.unSubscribeMediaItemManager();
+    }
+    state.counters["clips"] = Clips;
+    state.counters["longest_hold_ms"] = longest;
+}
+
+void coversWithTwoWorkers(benchmark::State &state)
+{
+    const QString footage =
+        linkedFootage(QStringLiteral("some"), filesOf(samples()).size() * PictureRounds);
+    double gain = 0;
+    int rounds = 0;
+    for (auto _ : state) {
+        Q_UNUSED(_)
+        const Project one(footage, 1);
+        one.read(INxFootageService::wFacts);
+        const double alone = one.read(INxFootageService::wPictures);
+        const Project two(footage, 2);
+        two.read(INxFootageService::wFacts);
+        const double together = two.read(INxFootageService::wPictures);
+        state.SetIterationTime(together / MillisecondsPerSecond);
+        gain += alone / together;
+        ++rounds;
+    }
+    state.counters["times_one_worker"] = gain / rounds;
+}
+
+BENCHMARK(factsOfSamples)->UseManualTime()->Unit(benchmark::kMillisecond)->Iterations(5);
+BENCHMARK(factsOfTenThousandClips)->UseManualTime()->Unit(benchmark::kMillisecond)->Iterations(1);
+BENCHMARK(coversWithTwoWorkers)->UseManualTime()->Unit(benchmark::kMillisecond)->Iterations(2);
+
+} // namespace
+
+int main(int argc, char **argv)
+{
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    const QGuiApplication application(argc, argv);
+    av_log_set_level(AV_LOG_QUIET);
+    benchmark::Initialize(&argc, argv);
+    benchmark::RunSpecifiedBenchmarks();
+    return 0;
+}

@@ -1,0 +1,158 @@
+// SPDX-FileCopyrightText: 2026 Brevano contributors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include <NxVBLEngine/reading/NxWorkerProcess.h>
+
+#include <NxWorkerProtocol/NxWorkerExit.h>
+
+#include <QPointer>
+
+#include <optional>
+#include <utility>
+
+namespace {
+
+constexpr int LongestFarewell = 1'000; // ms
+
+} // namespace
+
+NxWorkerProcess::NxWorkerProcess(QString program, QString cacheFolder)
+    : m_program(std::move(program))
+    , m_process(std::make_unique<QProcess>())
+{
+    m_process->setProgram(m_program);
+    m_process->setArguments({std::move(cacheFolder)});
+    m_process->setProcessChannelMode(QProcess::ForwardedErrorChannel);
+    connect(m_process.get(), &QProcess::readyReadStandardOutput, this, &NxWorkerProcess::onBytes);
+    connect(m_process.get(), qOverload<int, QProcess::ExitStatus>(&QProcess::finished), this,
+        &NxWorkerProcess::onFinished);
+    connect(m_process.get(), &QProcess::errorOccurred, this, &NxWorkerProcess::onFailed);
+}
+
+NxWorkerProcess::~NxWorkerProcess()
+{
+    m_process->disconnect(this);
+    if (m_process->state() == QProcess::NotRunning)
+        return;
+    m_process->kill();
+    if (!m_process->waitForFinished(LongestFarewell))
+        m_process.release(); // Its own destructor would wait half a minute for a dead disk.
+}
+
+void NxWorkerProcess::start()
+{
+    m_process->start(QIODevice::ReadWrite | QIODevice::Unbuffered);
+}
+
+qint64 NxWorkerProcess::processId() const
+{
+    return m_process->processId();
+}
+
+void NxWorkerProcess::ask(const NxReadRequest &request)
+{
+    m_isReady = false;
+    m_process->write(
+        NxWorkerFrames::framed(NxWorkerWord::Request, NxWorkerMessages::packed(request)));
+}
+
+void NxWorkerProcess::close()
+{
+    m_closing = true;
+    m_isReady = false;
+    m_process->closeWriteChannel();
+}
+
+void NxWorkerProcess::kill()
+{
+    m_isReady = false;
+    m_process->kill();
+}
+
+void NxWorkerProcess::onBytes()
+{
+    m_frames.append(m_process->readAllStandardOutput());
+    const QPointer<NxWorkerProcess> self(this);
+    while (self && !m_ended) {
+        const std::optional<NxWorkerFrames::Frame> frame = m_frames.take();
+        if (!frame)
+            break;
+        take(*frame);
+    }
+    if (self && !m_ended && m_frames.isBroken())
+        end(NxWorkerEnd::Confused, tr("%1 does not speak as it should.").arg(m_program));
+}
+
+void NxWorkerProcess::take(const NxWorkerFrames::Frame &frame)
+{
+    quint64 number = 0;
+    if (!m_greeted && frame.word == NxWorkerWord::Hello) {
+        greet(frame.bytes);
+    } else if (m_greeted && frame.word == NxWorkerWord::Answer) {
+        takeAnswer(frame.bytes);
+    } else if (m_greeted && frame.word == NxWorkerWord::Opened
+        && NxWorkerMessages::unpackOpened(frame.bytes, &number)) {
+        Q_EMIT opened(number);
+    } else {
+        end(NxWorkerEnd::Confused, tr("%1 does not speak as it should.").arg(m_program));
+    }
+}
+
+void NxWorkerProcess::greet(const QByteArray &bytes)
+{
+    if (!NxWorkerMessages::unpack(bytes, &m_hello)) {
+        end(NxWorkerEnd::Confused, tr("%1 does not speak as it should.").arg(m_program));
+        return;
+    }
+    if (m_hello.version != NxWorkerProtocol::Version) {
+        end(NxWorkerEnd::WrongVersion,
+            tr("%1 speaks version %2, this program version %3: they are not of one installation.")
+                .arg(m_program)
+                .arg(m_hello.version)
+                .arg(NxWorkerProtocol::Version));
+        return;
+    }
+    m_greeted = true;
+    m_isReady = true;
+    Q_EMIT ready();
+}
+
+void NxWorkerProcess::takeAnswer(const QByteArray &bytes)
+{
+    NxReadAnswer answer;
+    if (!NxWorkerMessages::unpack(bytes, &answer)) {
+        end(NxWorkerEnd::Confused, tr("%1 does not speak as it should.").arg(m_program));
+        return;
+    }
+    m_isReady = true;
+    Q_EMIT answered(answer);
+}
+
+void NxWorkerProcess::onFailed(QProcess::ProcessError error)
+{
+    if (error == QProcess::FailedToStart)
+        end(NxWorkerEnd::NotStarted,
+            tr("%1 cannot be started: %2.").arg(m_program, m_process->errorString()));
+}
+
+void NxWorkerProcess::onFinished(int code, QProcess::ExitStatus status)
+{
+    const QPointer<NxWorkerProcess> self(this);
+    const bool endedItself = status == QProcess::NormalExit;
+    if (endedItself && code == int(NxWorkerExit::TooMuchMemory))
+        end(NxWorkerEnd::TooMuchMemory, tr("%1 took too much memory.").arg(m_program));
+    else if (endedItself && m_closing)
+        end(NxWorkerEnd::Closed, {});
+    else
+        end(NxWorkerEnd::Crashed, tr("%1 ended with code %2.").arg(m_program).arg(code));
+    if (self)
+        Q_EMIT gone();
+}
+
+void NxWorkerProcess::end(NxWorkerEnd end, const QString &why)
+{
+    m_isReady = false;
+    if (std::exchange(m_ended, true))
+        return;
+    m_process->kill();
+    Q_EMIT ended(end, why); // Last: whoever hears it may let this go.
+}

@@ -1,0 +1,7 @@
+// SPDX-FileCopyrightText: 2026 Brevano contributors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include <NxVBLModel/INxFootageService.h>
+
+INxFootageService::INxFootageService(QObject *parent) : QObject(parent) {}
+
+INxFootageService::~INxFootageService() = default;
