@@ -4,7 +4,7 @@
 
 #include <QtTest>
 
-Yard::Yard() : m_footage(m_folder.makeDir(QStringLiteral("footage"))) {}
+Yard::Yard(Clips clips) : m_clips(clips), m_footage(m_folder.makeDir(QStringLiteral("footage"))) {}
 
 QString Yard::clip(const QString &name, const QByteArray &content) const
 {
@@ -30,7 +30,9 @@ QString Yard::footage(const QString &name) const
 
 ProgramResult Yard::run(const char *command, const QStringList &rest) const
 {
-    const QStringList words{QLatin1String(command), project()};
+    QStringList words{QLatin1String(command), project()};
+    if (words.constFirst() == QLatin1String("import") && m_clips == Clips::Named)
+        words += QStringLiteral("--no-read");
     return ProgramRun::run(words + rest, m_folder.path());
 }
 

@@ -10,7 +10,13 @@
 class Yard
 {
 public:
-    Yard();
+    /// What its clips are.
+    enum class Clips {
+        Named, ///< Files of which only the names count: an import does not look into them.
+        Real, ///< Footage.
+    };
+
+    explicit Yard(Clips clips = Clips::Named);
 
     /// Writes a small file into the footage, with folders above it; answers its path.
     QString clip(const QString &name, const QByteArray &content = "clip") const;
@@ -36,6 +42,7 @@ public:
     [[nodiscard]] QStringList paths() const;
 
 private:
+    const Clips m_clips;
     const NxTempDir m_folder;
     const QString m_footage;
 };

@@ -42,7 +42,7 @@ void tst_FullDisk::whatWasToldStandsWhenTheDiskIsFull()
     // The disk is gone with the namespace: what it held is looked at in a copy.
     const QString script =
         QStringLiteral("mount -t tmpfs -o size=$4k tmpfs \"$1\" || exit 99; "
-                       "\"$BREVANO\" import \"$1/Film.brevano\" \"$2\" --json; code=$?; "
+                       "\"$BREVANO\" import --no-read \"$1/Film.brevano\" \"$2\" --json; code=$?; "
                        "cp \"$1\"/Film.brevano* \"$3/\" || exit 98; exit $code");
     const ProgramResult result = ProgramRun::runShell(
         QStringLiteral("script=$1; shift; exec unshare --mount sh -c \"$script\" sh \"$@\""),
@@ -77,7 +77,7 @@ void tst_FullDisk::aDiskThatIsFullFromTheStartTakesNoProject()
     const QString disk = yard.folder().makeDir(QStringLiteral("disk"));
     const QString script =
         QStringLiteral("mount -t tmpfs -o size=8k tmpfs \"$1\" || exit 99; "
-                       "\"$BREVANO\" import \"$1/Film.brevano\" \"$2\"; code=$?; "
+                       "\"$BREVANO\" import --no-read \"$1/Film.brevano\" \"$2\"; code=$?; "
                        "ls -A \"$1\" >&2; exit $code");
     const ProgramResult result = ProgramRun::runShell(
         QStringLiteral("script=$1; shift; exec unshare --mount sh -c \"$script\" sh \"$@\""),

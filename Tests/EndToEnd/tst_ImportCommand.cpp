@@ -264,7 +264,8 @@ void tst_ImportCommand::oddNamesArriveAsTheyAre()
     const QString path = m_yard->clip(name);
     const NxFootageGuard guard(m_yard->footage());
     // From within the folder, so that a leading dash is the first thing of the word.
-    const QStringList words{QStringLiteral("import"), m_yard->project(), QStringLiteral("--json"),
+    const QStringList words{QStringLiteral("import"), QStringLiteral("--no-read"),
+                            m_yard->project(), QStringLiteral("--json"),
                             QStringLiteral("--"), name};
     const ProgramResult result = ProgramRun::run(words, m_yard->footage());
     VERIFY_CODE(result, 0);
@@ -292,7 +293,8 @@ void tst_ImportCommand::aNameThatIsNoUtf8IsRefusedWithItsBytes()
     const NxFootageGuard guard(m_yard->footage());
 
     const QString import =
-        QStringLiteral("exec \"$BREVANO\" import \"$1\" \"$2/$(printf 'caf\\351.mp4')\" --json");
+        QStringLiteral("exec \"$BREVANO\" import --no-read \"$1\" "
+                       "\"$2/$(printf 'caf\\351.mp4')\" --json");
     const ProgramResult named =
         ProgramRun::runShell(import, {m_yard->project(), m_yard->footage()});
     VERIFY_CODE(named, 1);
@@ -335,7 +337,7 @@ void tst_ImportCommand::aLocaleOfAsciiDoesNotLoseNames()
 {
     const QString path = m_yard->clip(QString::fromUtf8("Stra\xC3\x9F\x65.mp4"));
     const ProgramResult result = ProgramRun::runShell(
-        QStringLiteral("LC_ALL=C LANG=C exec \"$BREVANO\" import \"$1\" \"$2\" --json"),
+        QStringLiteral("LC_ALL=C LANG=C exec \"$BREVANO\" import --no-read \"$1\" \"$2\" --json"),
         {m_yard->project(), m_yard->footage()});
     VERIFY_CODE(result, 0);
     QCOMPARE(result.values("added", "path"), QStringList{path});
@@ -372,7 +374,8 @@ ProgramResult tst_ImportCommand::importUntilSignal(int signal) const
 {
     ProgramRun import;
     import.begin(
-        {QStringLiteral("import"), m_yard->project(), m_yard->footage(), QStringLiteral("--json")});
+        {QStringLiteral("import"), QStringLiteral("--no-read"), m_yard->project(),
+         m_yard->footage(), QStringLiteral("--json")});
     if (import.waitForLine())
         ::kill(pid_t(import.processId()), signal);
     return import.end();
@@ -418,7 +421,8 @@ void tst_ImportCommand::aReaderWhoLeavesDoesNotStopTheImport()
     constexpr int files = 500;
     m_yard->manyClips(1, files);
     const QString command = QStringLiteral(
-        "{ \"$BREVANO\" import \"$1\" \"$2\" --json; echo \"code $?\" >&2; } | head -n 1");
+        "{ \"$BREVANO\" import --no-read \"$1\" \"$2\" --json; echo \"code $?\" >&2; }"
+        " | head -n 1");
     const ProgramResult result =
         ProgramRun::runShell(command, {m_yard->project(), m_yard->footage()});
     QCOMPARE(result.lines().size(), 1);

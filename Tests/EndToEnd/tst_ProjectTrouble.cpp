@@ -208,7 +208,8 @@ void tst_ProjectTrouble::aNameThatIsNoUtf8IsNoProject()
 {
     const auto before = filesIn(m_yard->folder().path());
     const ProgramResult result = ProgramRun::runShell(
-        QStringLiteral("exec \"$BREVANO\" import \"$(printf 'caf\\351.brevano')\" \"$1\""),
+        QStringLiteral("exec \"$BREVANO\" import --no-read \"$(printf 'caf\\351.brevano')\" "
+                       "\"$1\""),
         {m_yard->footage()}, m_yard->folder().path());
     VERIFY_CODE(result, 4);
     QCOMPARE(result.errors, QByteArray("brevano: caf\\xe9.brevano: the name is not UTF-8\n"));
@@ -337,7 +338,9 @@ void tst_ProjectTrouble::aProjectInAWriteProtectedFolderIsOnlyLookedAt()
 {
     const QString folder = m_yard->folder().makeDir(QStringLiteral("archive"));
     const QString project = folder + QStringLiteral("/Film.brevano");
-    VERIFY_CODE(ProgramRun::run({QStringLiteral("import"), project, m_yard->footage()}), 0);
+    VERIFY_CODE(ProgramRun::run({QStringLiteral("import"), QStringLiteral("--no-read"), project,
+                                 m_yard->footage()}),
+                0);
     allowEverybody(m_yard->folder().path());
     allowEverybody(folder);
     allowEverybody(project);
@@ -363,7 +366,8 @@ void tst_ProjectTrouble::noProjectIsMadeWithoutPermission()
     const NxFootageGuard archive(folder);
     const QString project = folder + QStringLiteral("/Film.brevano");
     const ProgramResult refused = ProgramRun::run(
-        {QStringLiteral("import"), project, m_yard->footage()}, {}, ProgramRun::User::Nobody);
+        {QStringLiteral("import"), QStringLiteral("--no-read"), project, m_yard->footage()}, {},
+        ProgramRun::User::Nobody);
     VERIFY_CODE(refused, 4);
     QVERIFY2(refused.said("archive/Film.brevano: cannot be made: "), refused.story().constData());
     NX_VERIFY_UNTOUCHED(archive);
@@ -389,7 +393,8 @@ void tst_ProjectTrouble::footageThatVanishesDuringTheImportIsTold()
     m_yard->manyClips(folders, files);
     ProgramRun import;
     import.begin(
-        {QStringLiteral("import"), m_yard->project(), m_yard->footage(), QStringLiteral("--json")});
+        {QStringLiteral("import"), QStringLiteral("--no-read"), m_yard->project(),
+         m_yard->footage(), QStringLiteral("--json")});
     QVERIFY(import.waitForLine());
     QVERIFY(QFile::rename(m_yard->footage(), m_yard->path(QStringLiteral("away"))));
     const ProgramResult result = import.end();

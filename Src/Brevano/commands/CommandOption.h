@@ -27,6 +27,7 @@ constexpr CommandOption groupDesc{"--group-desc", nullptr, "groups the other way
 constexpr CommandOption type{"--type", "VALUE", "only what is of this type or licence"};
 constexpr CommandOption search{"--search", "TEXT", "only names with this text"};
 constexpr CommandOption columns{"--columns", nullptr, "with the columns of the list view"};
+constexpr CommandOption noRead{"--no-read", nullptr, "do not look into the files now"};
 constexpr CommandOption json{"--json", nullptr, "one JSON object a line"};
 constexpr CommandOption help{"--help", nullptr, "how the command is used"};
 

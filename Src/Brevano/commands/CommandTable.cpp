@@ -6,11 +6,13 @@
 #include <Brevano/commands/CheckCommand.h>
 #include <Brevano/commands/HistoryCommand.h>
 #include <Brevano/commands/ImportCommand.h>
+#include <Brevano/commands/InfoCommand.h>
 #include <Brevano/commands/ListCommand.h>
 #include <Brevano/commands/MkdirCommand.h>
 #include <Brevano/commands/MoveCommand.h>
 #include <Brevano/commands/RemoveCommand.h>
 #include <Brevano/commands/RenameCommand.h>
+#include <Brevano/commands/RereadCommand.h>
 
 #include <algorithm>
 
@@ -40,8 +42,9 @@ const QVector<CommandEntry> table{
     {"import",
      {"PROJECT FILE|FOLDER..."},
      "Brings files into a project, which is made when it is not there. A folder is taken with\n"
-     "everything in it that can be imported, and becomes a folder of the project.",
-     {into, section, json},
+     "everything in it that can be imported, and becomes a folder of the project. What is in the\n"
+     "files is read, too.",
+     {into, section, noRead, json},
      2,
      any,
      make<ImportCommand>},
@@ -57,6 +60,22 @@ const QVector<CommandEntry> table{
      1,
      1,
      make<ListCommand>},
+    {"info",
+     {"PROJECT NAME_OR_PATH"},
+     "Shows what a media is: all that its file tells, and where its pictures lie. What is not\n"
+     "read yet is read now.",
+     {json},
+     2,
+     2,
+     make<InfoCommand>},
+    {"reread",
+     {"PROJECT [NAME_OR_PATH...]"},
+     "Reads the files of media once more and makes their pictures anew; without names, of all\n"
+     "media that could not be read or have no picture.",
+     {json},
+     1,
+     any,
+     make<RereadCommand>},
     {"mkdir",
      {"PROJECT FOLDER"},
      "Makes a folder, and those above it that are not there.",

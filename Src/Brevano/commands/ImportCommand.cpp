@@ -6,19 +6,23 @@
 #include <Brevano/commands/Console.h>
 #include <Brevano/commands/ExitCode.h>
 #include <Brevano/commands/FolderSteps.h>
+#include <Brevano/commands/FootageRun.h>
 #include <Brevano/commands/ImportReportText.h>
 #include <Brevano/commands/ImportRun.h>
+#include <Brevano/commands/ImportedCopies.h>
 #include <Brevano/commands/InterruptWatcher.h>
 #include <Brevano/commands/ProjectSession.h>
 #include <Brevano/commands/Sections.h>
 #include <Brevano/commands/ShownText.h>
 #include <NxVBLModel/INxFolderMedia.h>
+#include <NxVBLModel/INxFootageService.h>
 #include <NxVBLModel/NxFolderPath.h>
 
 int ImportCommand::run(const CommandLine &line, Console *console)
 {
     m_console = console;
     m_json = line.has(CommandOptions::json);
+    m_reads = !line.has(CommandOptions::noRead);
     const QString fault = Sections::fault(line);
     if (!fault.isEmpty())
         return wrongUsage(console, fault);
@@ -82,6 +86,8 @@ int ImportCommand::import(ProjectSession *session, INxFolderMedia *into,
     report.lines = m_refused + report.lines;
     report.refused += m_refused.size();
     report.found += m_refused.size();
+    if (m_reads && outcome.failure.isEmpty() && !outcome.interrupted)
+        outcome.interrupted = !read(session, outcome.added, interrupts, &report);
     const bool isWritten = outcome.failure.isEmpty() && session->commit();
     tell(report, outcome.interrupted);
     if (isWritten)
@@ -89,6 +95,36 @@ int ImportCommand::import(ProjectSession *session, INxFolderMedia *into,
     if (!outcome.failure.isEmpty())
         session->tellFailure(outcome.failure);
     return ProjectUnusable;
+}
+
+bool ImportCommand::read(ProjectSession *session, const QList<INxAbstractMediaItem *> &added,
+                         const InterruptWatcher &interrupts, NxImportReport *report)
+{
+    FootageRun reading(session->footage(), m_console, interrupts);
+    const FootageRun::Outcome outcome = reading.run([&added](INxFootageService *service) {
+        service->want(added, INxFootageService::wFacts | INxFootageService::wFingerprint);
+    });
+    if (!outcome.trouble.isEmpty())
+        m_console->note(outcome.trouble);
+    const ImportedCopies copies(*session);
+    for (const INxAbstractMediaItem *media : added) {
+        const NxFootageState state = session->footage()->state(media);
+        const INxAbstractMediaItem *original = copies.originalOf(*media);
+        NxImportReportLine line{media->sourcePath(), NxImportVerdict::CopyOf, {},
+                                NxFolderPath::of(media->parentFolder())};
+        if (state.facts == NxFootageStatus::Failed) {
+            line.verdict = NxImportVerdict::Unreadable;
+            line.reason = state.reason;
+            ++report->unreadable;
+        } else if (original) {
+            line.reason =
+                QStringLiteral("It has the same contents as %1.").arg(original->sourcePath());
+        } else {
+            continue;
+        }
+        report->lines.append(line);
+    }
+    return !outcome.interrupted;
 }
 
 void ImportCommand::tell(const NxImportReport &report, bool interrupted)

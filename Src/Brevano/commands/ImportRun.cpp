@@ -57,6 +57,7 @@ void ImportRun::onAdded(const QList<INxAbstractMediaItem *> &items)
         MediaFacts::addIdentity(&line, *item);
         lines.append(line.text());
     }
+    m_outcome.added += items;
     ++m_openCommits;
     m_project->requestCommit([this, lines, count = items.size()](const NxResult<void> &result) {
         onCommitted(lines, count, result);

@@ -27,6 +27,7 @@ public:
         bool interrupted = false;
         /// Why not all could be written; what was told before is on disk nevertheless.
         QString failure;
+        QList<INxAbstractMediaItem *> added; ///< Not owned; what is in the project now.
     };
 
     /// With `tellsItems` each file is a JSON line as soon as it is on disk. An interruption that

@@ -49,6 +49,7 @@ struct Facts
     qint64 frames = -1;
     qint64 milliseconds = -1;
     NxRational rate;
+    QString timecode;
 };
 
 /// Sound counts in hundredths of a second.
@@ -65,12 +66,16 @@ Facts factsOf(const INxMediaInfo *info)
         facts.audio = *info->audioStream();
     if (info->imageInfo())
         facts.image = *info->imageInfo();
+    facts.timecode = info->timecode();
     if (info->kind() == mikVideo && info->frameRate().isValid() && info->frameRate().num > 0) {
         facts.rate = info->frameRate();
         facts.frames = info->frameCount();
         facts.milliseconds = NxConvertUtility::frame2Msec(facts.frames, facts.rate.toDouble());
     } else if (info->kind() == mikAudio) {
         facts.milliseconds = info->duration() * millisecondsPerSoundUnit;
+    } else if (info->kind() == mikSubtitle) {
+        facts.milliseconds =
+            NxConvertUtility::frame2Msec(info->frameCount(), info->frameRate().toDouble());
     }
     return facts;
 }
@@ -150,7 +155,7 @@ void MediaFacts::addContents(JsonLine *line, const INxAbstractMediaItem &media)
     line->addNumberOrNull("sample_rate", facts.audio.sampleRate, facts.audio.sampleRate > 0);
     line->addNumberOrNull("channels", facts.audio.channels, facts.audio.channels > 0);
     line->addTextOrNull("camera", media.cameraName());
-    line->addNull("timecode");
+    line->addTextOrNull("timecode", facts.timecode);
     if (isMoving)
         line->addBool("variable_rate", facts.video.variableFrameRate);
     else
