@@ -6,6 +6,9 @@
 // analyse its streams, pictures included, in one process. The footage of the tests is so small
 // that opening it is half of the bound; what cameras write is measured by itself.
 
+#include "CameraFootage.h"
+#include "FullAnalysis.h"
+
 #include <Footage/NxFootageRecipes.h>
 #include <Footage/NxFootageSet.h>
 #include <brevano-worker/facts/FactsReader.h>
@@ -15,9 +18,6 @@
 #include <QElapsedTimer>
 #include <QFile>
 #include <QGuiApplication>
-#include <QProcess>
-#include <QStringList>
-#include <QTemporaryDir>
 
 #include <benchmark/benchmark.h>
 
@@ -25,7 +25,6 @@
 #include <vector>
 
 extern "C" {
-#include <libavformat/avformat.h>
 #include <libavutil/log.h>
 }
 
@@ -39,69 +38,6 @@ struct Footage
     QByteArray path;
     NxFootageKind kind;
 };
-
-struct Clip
-{
-    const char *name;
-    NxFootageKind kind;
-    const char *arguments; ///< Of ffmpeg.
-};
-
-constexpr const char *Moving = "-f lavfi -i testsrc2=s=1920x1080:r=25:d=4 ";
-constexpr const char *Sound = "-f lavfi -i sine=r=48000:d=4 ";
-constexpr const char *Photo = "-f lavfi -i testsrc2=s=4000x3000 -frames:v 1 ";
-
-// In 1080p, as cameras, editors and telephones write them.
-constexpr Clip Clips[] = {
-    {"camera.mp4", NxFootageKind::Video, "-c:v libx264 -preset veryfast -b:v 12M -c:a aac"},
-    {"camera.mov", NxFootageKind::Video, "-c:v libx264 -preset veryfast -b:v 12M -c:a pcm_s16le"},
-    {"recorder.mkv", NxFootageKind::Video, "-c:v libx264 -preset veryfast -b:v 12M -c:a aac"},
-    {"telephone.mp4", NxFootageKind::Video,
-     "-c:v libx265 -preset ultrafast -x265-params log-level=none -c:a aac"},
-    {"browser.webm", NxFootageKind::Video,
-     "-c:v libvpx-vp9 -deadline realtime -cpu-used 8 -c:a libopus"},
-    {"editor.mov", NxFootageKind::Video, "-c:v prores_ks -profile:v 1 -c:a pcm_s16le"},
-    {"camcorder.ts", NxFootageKind::Video, "-c:v libx264 -preset veryfast -b:v 12M -c:a aac"},
-    {"disc.mpg", NxFootageKind::Video, "-c:v mpeg2video -b:v 8M -c:a mp2"},
-    {"broadcast.mxf", NxFootageKind::Video,
-     "-c:v dnxhd -profile:v dnxhr_lb -pix_fmt yuv422p -c:a pcm_s16le"},
-    {"old.avi", NxFootageKind::Video, "-c:v mjpeg -c:a pcm_s16le"},
-    {"voice.wav", NxFootageKind::Audio, ""},
-    {"music.mp3", NxFootageKind::Audio, ""},
-    {"music.m4a", NxFootageKind::Audio, ""},
-    {"photo.jpg", NxFootageKind::Image, "-pix_fmt yuvj420p"},
-    {"drawing.png", NxFootageKind::Image, ""},
-};
-
-QString inputsOf(NxFootageKind kind)
-{
-    if (kind == NxFootageKind::Image)
-        return QLatin1String(Photo);
-    return kind == NxFootageKind::Audio ? QLatin1String(Sound)
-                                        : QLatin1String(Moving) + QLatin1String(Sound);
-}
-
-/// Made by the first who asks, and gone with the program.
-const std::vector<Footage> &cameraFootage()
-{
-    static const QTemporaryDir dir;
-    static const std::vector<Footage> files = [] {
-        std::vector<Footage> made;
-        for (const Clip &clip : Clips) {
-            const QString path = dir.filePath(QLatin1String(clip.name));
-            const QString arguments = QStringLiteral("-v error -y ") + inputsOf(clip.kind)
-                                      + QLatin1String(clip.arguments);
-            const int code = QProcess::execute(QStringLiteral("ffmpeg"),
-                                               arguments.split(QLatin1Char(' '), Qt::SkipEmptyParts)
-                                                   + QStringList{path});
-            if (code != 0)
-                qFatal("ffmpeg cannot make %s", clip.name);
-            made.push_back({QFile::encodeName(path), clip.kind});
-        }
-        return made;
-    }();
-    return files;
-}
 
 /// The files of one kind, or of all kinds when it is Unknown.
 std::vector<Footage> footage(NxFootageKind kind)
@@ -128,17 +64,6 @@ NxResult<NxFootageFacts> factsOf(const Footage &footage)
                      : NxResult<NxFootageFacts>(container.error());
 }
 
-/// True when FFmpeg can read the file at all.
-bool analyse(const Footage &footage)
-{
-    AVFormatContext *format = nullptr;
-    if (avformat_open_input(&format, footage.path.constData(), nullptr, nullptr) < 0)
-        return false;
-    const bool isAnalysed = avformat_find_stream_info(format, nullptr) >= 0;
-    avformat_close_input(&format);
-    return isAnalysed;
-}
-
 double milliseconds(const QElapsedTimer &timer)
 {
     return double(timer.nsecsElapsed()) / NanosecondsPerMillisecond;
@@ -154,7 +79,7 @@ void readFacts(benchmark::State &state, std::vector<Footage> files)
 {
     // What FFmpeg cannot read has no bound; nothing is left out on our side alone.
     files.erase(std::remove_if(files.begin(), files.end(),
-                               [](const Footage &file) { return !analyse(file); }),
+                               [](const Footage &file) { return !analyseFully(file.path); }),
                 files.end());
     std::vector<double> ours;
     std::vector<double> bound;
@@ -162,7 +87,7 @@ void readFacts(benchmark::State &state, std::vector<Footage> files)
         QElapsedTimer timer;
         timer.start();
         for (const Footage &file : files)
-            benchmark::DoNotOptimize(analyse(file));
+            benchmark::DoNotOptimize(analyseFully(file.path));
         bound.push_back(milliseconds(timer));
         timer.start();
         for (const Footage &file : files) {
@@ -195,7 +120,10 @@ BENCHMARK(readTestFootage)
 
 void readCameraFootage(benchmark::State &state)
 {
-    readFacts(state, cameraFootage());
+    std::vector<Footage> files;
+    for (const CameraFootage::File &file : CameraFootage::files())
+        files.push_back({QFile::encodeName(file.path), file.kind});
+    readFacts(state, files);
 }
 BENCHMARK(readCameraFootage)->UseManualTime()->Iterations(Rounds)->Unit(benchmark::kMillisecond);
 
