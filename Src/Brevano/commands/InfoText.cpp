@@ -37,33 +37,45 @@ QString joined(QStringList parts)
     return parts.join(QStringLiteral(", "));
 }
 
+/// Tags have four characters; short ones are filled up with blanks.
 QString withTag(const QString &codec, const QString &tag)
 {
-    return tag.isEmpty() || tag == codec ? codec : QStringLiteral("%1 (%2)").arg(codec, tag);
+    const QString shown = tag.trimmed();
+    if (codec.isEmpty())
+        return shown;
+    return shown.isEmpty() || shown == codec ? codec : codec + QStringLiteral(" (%1)").arg(shown);
+}
+
+QString sizeText(const QSize &size)
+{
+    return size.isEmpty() ? QString()
+                          : QStringLiteral("%1 x %2").arg(size.width()).arg(size.height());
+}
+
+QString framesText(const NxRational &rate, bool isVariable)
+{
+    const bool isKnown = rate.isValid() && rate.num > 0;
+    if (!isKnown)
+        return {};
+    return QStringLiteral("%1 frames a second%2")
+        .arg(rateText(rate), isVariable ? QStringLiteral(" (they vary)") : QString());
 }
 
 QString pictureText(const INxMediaInfo &info)
 {
     if (const NxImageInfo *image = info.imageInfo())
-        return QStringLiteral("%1 x %2").arg(image->size.width()).arg(image->size.height());
+        return sizeText(image->size);
     const NxVideoStreamInfo *video = info.videoStream();
     if (!video)
         return {};
-    const QString rate =
-        QStringLiteral("%1 frames a second%2")
-            .arg(rateText(info.frameRate()), video->variableFrameRate
-                                                 ? QStringLiteral(" (they vary)")
-                                                 : QString());
     const QString depth =
         video->bitDepth > 0 ? QStringLiteral("%1 bit").arg(video->bitDepth) : QString();
-    const QString turned =
-        video->rotation != 0 ? QStringLiteral("turned by %1 degrees").arg(video->rotation)
-                             : QString();
-    return joined({QStringLiteral("%1 x %2")
-                       .arg(video->frameSize.width())
-                       .arg(video->frameSize.height()),
-                   rate, withTag(video->codecName, video->codecTag), video->pixelFormat, depth,
-                   turned});
+    const QString turned = video->rotation != 0
+                               ? QStringLiteral("turned by %1 degrees").arg(video->rotation)
+                               : QString();
+    return joined({sizeText(video->frameSize),
+                   framesText(info.frameRate(), video->variableFrameRate),
+                   withTag(video->codecName, video->codecTag), video->pixelFormat, depth, turned});
 }
 
 QString soundText(const INxMediaInfo &info)
@@ -71,9 +83,11 @@ QString soundText(const INxMediaInfo &info)
     const NxAudioStreamInfo *audio = info.audioStream();
     if (!audio)
         return {};
-    return joined({QStringLiteral("%1 Hz").arg(audio->sampleRate),
-                   ShownText::count(audio->channels, "channel", "channels"),
-                   withTag(audio->format, audio->codecTag)});
+    const QString rate =
+        audio->sampleRate > 0 ? QStringLiteral("%1 Hz").arg(audio->sampleRate) : QString();
+    const QString channels =
+        audio->channels > 0 ? ShownText::count(audio->channels, "channel", "channels") : QString();
+    return joined({rate, channels, withTag(audio->format, audio->codecTag)});
 }
 
 QString lengthText(const INxMediaInfo &info)
@@ -83,10 +97,9 @@ QString lengthText(const INxMediaInfo &info)
         return {};
     const QString clock =
         NxConvertUtility::frame2String(info.frameCount(), info.frameRate().toDouble());
-    return info.kind() == mikVideo
-               ? QStringLiteral("%1 (%2)").arg(
-                   clock, ShownText::count(info.frameCount(), "frame", "frames"))
-               : clock;
+    return info.kind() == mikVideo ? QStringLiteral("%1 (%2)").arg(
+               clock, ShownText::count(info.frameCount(), "frame", "frames"))
+                                   : clock;
 }
 
 QString pictureFileText(NxFootageStatus status, const QString &path, const QString &reason)
@@ -183,7 +196,7 @@ QByteArray InfoText::json(const INxAbstractMediaItem &media, const NxFootageStat
     line.addTextOrNull("pixel_format", video ? video->pixelFormat : QString());
     line.addNumberOrNull("bit_depth", video ? video->bitDepth : 0, video && video->bitDepth > 0);
     line.addTextOrNull("text_encoding", info ? info->textEncoding() : QString());
-    line.addText("read", statusWord(int(state.facts)));
+    line.addText("read", statusWord(state.facts));
     line.addTextOrNull("reason", state.reason);
     line.addTextOrNull("fingerprint", QString::fromLatin1(state.fingerprint));
     addPicture(&line, "cover", state.coverPath, state.cover, state.coverReason);
@@ -191,7 +204,7 @@ QByteArray InfoText::json(const INxAbstractMediaItem &media, const NxFootageStat
     return line.text();
 }
 
-QString InfoText::statusWord(int status)
+QString InfoText::statusWord(NxFootageStatus status)
 {
     return QLatin1String(FactWords[size_t(status)]);
 }

@@ -6,6 +6,7 @@
 #include <QStringList>
 
 class INxAbstractMediaItem;
+enum class NxFootageStatus;
 struct NxFootageState;
 
 /// All that is known of one media.
@@ -16,6 +17,6 @@ namespace InfoText {
 /// One JSON object; what is not known is null.
 [[nodiscard]] QByteArray json(const INxAbstractMediaItem &media, const NxFootageState &state);
 /// "done", "none", "failed", "waiting".
-[[nodiscard]] QString statusWord(int status);
+[[nodiscard]] QString statusWord(NxFootageStatus status);
 
 } // namespace InfoText

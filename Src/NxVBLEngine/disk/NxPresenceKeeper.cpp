@@ -104,7 +104,7 @@ void NxPresenceKeeper::refreshNow(std::function<void()> done)
 
 void NxPresenceKeeper::lookAgain(const std::vector<qint64> &media)
 {
-    m_folders.wantMedia(media);
+    m_folders.wantAgain(media);
     m_pumpTimer.start();
 }
 

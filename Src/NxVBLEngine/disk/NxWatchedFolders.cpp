@@ -41,7 +41,7 @@ NxWatchedFolders::NxWatchedFolders(const NxProjectMemory *memory)
 {
 }
 
-int NxWatchedFolders::add(const NxEngineMedia *media)
+int NxWatchedFolders::folderFor(const NxEngineMedia *media)
 {
     const QString path = folderOf(media->filePath());
     const QString realPath = folderOf(media->canonicalPath());
@@ -56,6 +56,12 @@ int NxWatchedFolders::add(const NxEngineMedia *media)
         folder.volume = NxFileProbe::volumeOf(realPath, m_roots);
         m_folders.push_back(std::move(folder));
     }
+    return index;
+}
+
+int NxWatchedFolders::add(const NxEngineMedia *media)
+{
+    const int index = folderFor(media);
     m_folders[size_t(index)].media.push_back(media->id());
     return index;
 }
@@ -98,11 +104,21 @@ void NxWatchedFolders::wantAll()
 
 void NxWatchedFolders::wantMedia(const std::vector<qint64> &media)
 {
+    wantOf(media, &NxWatchedFolders::add);
+}
+
+void NxWatchedFolders::wantAgain(const std::vector<qint64> &media)
+{
+    wantOf(media, &NxWatchedFolders::folderFor);
+}
+
+void NxWatchedFolders::wantOf(const std::vector<qint64> &media, FolderOf folderOf)
+{
     QHash<int, std::vector<qint64>> byFolder;
     for (const qint64 id : media) {
         const NxEngineMedia *known = m_memory->media(id);
         if (known && known->folder())
-            byFolder[add(known)].push_back(id);
+            byFolder[(this->*folderOf)(known)].push_back(id);
     }
     for (auto each = byFolder.begin(); each != byFolder.end(); ++each)
         m_wanted.push_back({each.key(), false, true, std::move(each.value()), 0});

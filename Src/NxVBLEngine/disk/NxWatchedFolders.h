@@ -37,10 +37,13 @@ public:
     void setVolumeRoots(const QStringList &roots);
     [[nodiscard]] bool hasVolumeRoots() const { return !m_roots.isEmpty(); }
 
-    /// Wants all files of a folder looked at; of all folders; of single media.
+    /// Wants all files of a folder looked at; of all folders.
     void want(int folder);
     void wantAll();
+    /// Files media that are new here under their folders, and wants them looked at.
     void wantMedia(const std::vector<qint64> &media);
+    /// Wants media looked at that are filed already.
+    void wantAgain(const std::vector<qint64> &media);
     /// Wants the folders looked at whose last answer was not the last word; `now` in ms.
     void wantUncertain(qint64 now);
     /// Wants the next files looked at, in turn; none while others are wanted.
@@ -83,6 +86,9 @@ private:
         size_t next = 0;
     };
 
+    [[nodiscard]] int folderFor(const NxEngineMedia *media);
+    using FolderOf = int (NxWatchedFolders::*)(const NxEngineMedia *);
+    void wantOf(const std::vector<qint64> &media, FolderOf folderOf);
     [[nodiscard]] bool liesIn(const NxEngineMedia *media, const Folder &folder) const;
     void begin(Wanted *wanted);
     void appendFiles(Wanted *wanted, int most, NxFolderQuestion *question) const;

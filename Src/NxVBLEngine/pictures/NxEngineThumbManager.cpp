@@ -6,25 +6,25 @@
 
 #include <utility>
 
-NxEngineThumbManager::NxEngineThumbManager(Current current)
-    : m_current(std::move(current))
-{
-}
+NxEngineThumbManager::NxEngineThumbManager(Current current) : m_current(std::move(current)) {}
 
-NxEngineThumbManager::~NxEngineThumbManager() = default;
+NxEngineThumbManager::~NxEngineThumbManager()
+{
+    NxEngineThumbManager::cancelRequests();
+}
 
 QImage NxEngineThumbManager::thumbnail(INxAbstractMedia *media, const QSize &devicePixels)
 {
-    return *m_current ? (*m_current)->cover(media, devicePixels) : QImage();
+    return *m_current ? (*m_current)->cover(this, media, devicePixels) : QImage();
 }
 
 QImage NxEngineThumbManager::filmStrip(INxAbstractMedia *media)
 {
-    return *m_current ? (*m_current)->strip(media) : QImage();
+    return *m_current ? (*m_current)->strip(this, media) : QImage();
 }
 
 void NxEngineThumbManager::cancelRequests()
 {
     if (*m_current)
-        (*m_current)->cancelRequests();
+        (*m_current)->cancelRequests(this);
 }

@@ -10,6 +10,7 @@
 #include <QRegularExpression>
 
 #include <algorithm>
+#include <cstdlib>
 #include <vector>
 
 namespace {
@@ -24,7 +25,7 @@ struct Picture
     QDateTime used;
 };
 
-/// "ab/<32 digits>-1-<size>-cover-1.jpg", and the same with an ending while it is written.
+/// "ab/<32 digits>-1-<size>-cover-1.jpg"
 bool isPicture(const QString &name)
 {
     static const QRegularExpression form(
@@ -32,10 +33,11 @@ bool isPicture(const QString &name)
     return form.match(name).hasMatch();
 }
 
+/// The same with the number of the process that writes it.
 bool isHalfWritten(const QString &name)
 {
     static const QRegularExpression form(
-        QStringLiteral("^[0-9a-f]{32}-[0-9]+-[0-9]+-(cover|strip)-[0-9]+\\.jpg\\..*part$"));
+        QStringLiteral("^[0-9a-f]{32}-[0-9]+-[0-9]+-(cover|strip)-[0-9]+\\.jpg\\.[0-9]+\\.part$"));
     return form.match(name).hasMatch();
 }
 
@@ -66,8 +68,8 @@ std::vector<Picture> picturesIn(const QString &folder)
 qint64 NxPictureCache::trim(const QString &folder, qint64 limit)
 {
     std::vector<Picture> pictures;
-    const QFileInfoList folders
-        = QDir(folder).entryInfoList(QDir::Dirs | QDir::NoDotAndDotDot | QDir::NoSymLinks);
+    const QFileInfoList folders =
+        QDir(folder).entryInfoList(QDir::Dirs | QDir::NoDotAndDotDot | QDir::NoSymLinks);
     for (const QFileInfo &each : folders) {
         if (!isOurFolder(each.fileName()))
             continue;
@@ -80,7 +82,7 @@ qint64 NxPictureCache::trim(const QString &folder, qint64 limit)
     if (bytes <= limit)
         return bytes;
     std::sort(pictures.begin(), pictures.end(),
-        [](const Picture &a, const Picture &b) { return a.used < b.used; });
+              [](const Picture &a, const Picture &b) { return a.used < b.used; });
     const qint64 enough = limit / 10 * 9;
     for (const Picture &picture : pictures) {
         if (bytes <= enough)
@@ -93,10 +95,12 @@ qint64 NxPictureCache::trim(const QString &folder, qint64 limit)
 
 void NxPictureCache::noteUse(const QString &path)
 {
-    QFile file(path);
     const QDateTime now = QDateTime::currentDateTimeUtc();
-    const bool isOld = QFileInfo(path).lastModified().secsTo(now) > NotedAge;
+    const QFileInfo picture(path);
+    // A time to come is a clock gone wrong: the picture would be the last one to go.
+    const bool isOld = std::abs(picture.lastModified().secsTo(now)) > NotedAge;
+    QFile file(path);
     // Opening for both keeps the contents; a folder that cannot be written needs no order of use.
-    if (isOld && file.open(QIODevice::ReadWrite | QIODevice::ExistingOnly))
+    if (isOld && !picture.isSymLink() && file.open(QIODevice::ReadWrite | QIODevice::ExistingOnly))
         file.setFileTime(now, QFileDevice::FileModificationTime);
 }

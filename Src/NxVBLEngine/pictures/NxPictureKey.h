@@ -24,5 +24,5 @@ inline uint qHash(const NxPictureKey &key, uint seed = 0)
 {
     // The contents' hash is one already.
     return qHash(key.contents.low ^ quint64(key.kind), seed)
-        ^ qHash(quint64(key.size.width()) << 32 | quint64(quint32(key.size.height())), seed);
+           ^ qHash(quint64(key.size.width()) << 32 | quint64(quint32(key.size.height())), seed);
 }

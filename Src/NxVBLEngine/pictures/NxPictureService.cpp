@@ -8,6 +8,7 @@
 #include <NxVBLEngine/pictures/NxPictureCache.h>
 #include <NxVBLEngine/reading/NxFootageReader.h>
 
+#include <QCoreApplication>
 #include <QPointer>
 
 #include <algorithm>
@@ -15,12 +16,11 @@
 namespace {
 
 constexpr int PicturesPerTrim = 500;
-constexpr int LargestSide = 4'096; // px
 constexpr qint64 BytesPerKiB = 1'024;
 
-int costOf(const QImage &image)
+qint64 costOf(const QImage &image)
 {
-    return int(std::max<qint64>(image.sizeInBytes() / BytesPerKiB, 1));
+    return std::max<qint64>(image.sizeInBytes() / BytesPerKiB, 1);
 }
 
 NxPictureState stateOf(const NxEngineMedia *media, NxPictureKind kind)
@@ -28,55 +28,81 @@ NxPictureState stateOf(const NxEngineMedia *media, NxPictureKind kind)
     return kind == NxPictureKind::Cover ? media->coverState() : media->stripState();
 }
 
+bool isMade(const NxEngineMedia *media, NxPictureKind kind)
+{
+    return stateOf(media, kind) == NxPictureState::Made && !media->fingerprint().isNull();
+}
+
+/// The picture itself, in whatever size.
+NxPictureKey sizeless(const NxPictureKey &key)
+{
+    return {key.contents, key.kind, {}};
+}
+
 } // namespace
 
 NxPictureService::NxPictureService(NxProjectMemory *memory, NxFootageReader *reader, Limits limits)
-    : m_memory(memory)
-    , m_reader(reader)
-    , m_limits(limits)
-    , m_images(limits.memoryKiB)
-    , m_bell([this] { takeResults(); })
-    , m_threads(m_bell.rope())
+    : m_memory(memory),
+      m_reader(reader),
+      m_limits(limits),
+      m_images(limits.memoryKiB),
+      m_bell([this] { takeResults(); }),
+      m_threads(m_bell.rope())
 {
     connect(m_reader, &NxFootageReader::picturesMade, this, &NxPictureService::trimFolder);
 }
 
 NxPictureService::~NxPictureService() = default;
 
-QImage NxPictureService::cover(INxAbstractMedia *media, const QSize &devicePixels)
+QImage NxPictureService::cover(Asker asker, INxAbstractMedia *media, const QSize &devicePixels)
 {
-    const QSize size = devicePixels.boundedTo(QSize(LargestSide, LargestSide));
-    return size.isEmpty() ? QImage() : picture(media, NxPictureKind::Cover, size);
+    // Covers are no larger, and none is enlarged: all larger sizes are the same picture.
+    const QSize size =
+        devicePixels.boundedTo(QSize(NxPictureFile::CoverWidth, NxPictureFile::CoverHeight));
+    return size.isEmpty() ? QImage() : picture(asker, media, {{}, NxPictureKind::Cover, size});
 }
 
-QImage NxPictureService::strip(INxAbstractMedia *media)
+QImage NxPictureService::strip(Asker asker, INxAbstractMedia *media)
 {
-    return picture(media, NxPictureKind::Strip, {});
+    return picture(asker, media, {{}, NxPictureKind::Strip, {}});
 }
 
-QImage NxPictureService::picture(INxAbstractMedia *item, NxPictureKind kind, const QSize &size)
+QImage NxPictureService::picture(Asker asker, INxAbstractMedia *item, const NxPictureKey &asked)
 {
     const auto *media = dynamic_cast<const NxEngineMedia *>(item);
     if (!media)
         return {};
-    if (stateOf(media, kind) != NxPictureState::Made) {
+    if (!isMade(media, asked.kind)) {
         m_reader->wantVisible(media);
         return {};
     }
-    const NxPictureKey key{media->fingerprint(), kind, size};
+    const NxPictureKey key{media->fingerprint(), asked.kind, asked.size};
     if (const QImage *image = m_images.object(key))
         return *image;
-    QSet<qint64> &awaiting = m_awaited[key];
-    if (awaiting.isEmpty())
-        m_threads.load(key,
-            m_reader->cacheFolder() + QLatin1Char('/') + NxPictureFile::name(key.contents, kind));
-    awaiting.insert(media->id());
+    Awaited &awaited = m_awaited[key];
+    if (awaited.media.isEmpty())
+        order(key, media, &awaited);
+    awaited.media.insert(media->id());
+    awaited.askers.insert(asker);
     return {};
 }
 
-void NxPictureService::cancelRequests()
+void NxPictureService::order(const NxPictureKey &key, const NxEngineMedia *media, Awaited *awaited)
 {
-    for (const NxPictureKey &key : m_threads.dropWaiting())
+    if (m_lost.value(sizeless(key)).contains(media->id()))
+        awaited->madeAgainFor = media->id();
+    const QString name = NxPictureFile::name(key.contents, key.kind);
+    m_threads.load(key, m_reader->cacheFolder() + QLatin1Char('/') + name);
+}
+
+void NxPictureService::cancelRequests(Asker asker)
+{
+    const auto isUnwanted = [this, asker](const NxPictureKey &key) {
+        QSet<Asker> &askers = m_awaited[key].askers;
+        askers.remove(asker);
+        return askers.isEmpty();
+    };
+    for (const NxPictureKey &key : m_threads.dropWaiting(isUnwanted))
         m_awaited.remove(key);
     m_reader->forgetWanted();
 }
@@ -93,30 +119,68 @@ void NxPictureService::takeResults()
 
 void NxPictureService::take(const NxPictureThreads::Result &result)
 {
-    const QSet<qint64> awaiting = m_awaited.take(result.key);
-    const bool isGone = result.image.isNull();
-    if (!isGone)
-        m_images.insert(result.key, new QImage(result.image), costOf(result.image));
+    const Awaited awaited = m_awaited.take(result.key);
+    if (result.image.isNull()) {
+        noteLoss(result.key, awaited);
+        return;
+    }
+    keep(result);
     const QPointer<NxPictureService> self(this);
-    for (const qint64 id : awaiting) {
-        NxEngineMedia *media = m_memory->media(id);
-        const bool isStill = media && media->fingerprint() == result.key.contents;
-        if (!isStill)
-            continue;
-        if (isGone)
-            m_reader->notePictureGone(media);
-        else
-            tell(id);
+    for (const qint64 id : awaited.media) {
+        if (NxEngineMedia *media = stillWaiting(id, result.key))
+            tell(media);
         if (!self)
             return;
     }
 }
 
-void NxPictureService::tell(qint64 id)
+void NxPictureService::keep(const NxPictureThreads::Result &result)
+{
+    m_lost.remove(sizeless(result.key));
+    // One that is larger than all the memory is kept alone: without it nobody could ever paint it.
+    const qint64 cost = std::min<qint64>(costOf(result.image), m_images.maxCost());
+    m_images.insert(result.key, new QImage(result.image), int(cost));
+}
+
+NxEngineMedia *NxPictureService::stillWaiting(qint64 id, const NxPictureKey &key) const
 {
     NxEngineMedia *media = m_memory->media(id);
-    if (!media->folder())
+    const bool isStill = media && media->folder() && media->fingerprint() == key.contents;
+    return isStill && isMade(media, key.kind) ? media : nullptr;
+}
+
+void NxPictureService::noteLoss(const NxPictureKey &key, const Awaited &awaited)
+{
+    const QPointer<NxPictureService> self(this);
+    for (const qint64 id : awaited.media) {
+        const bool isForGood = id == awaited.madeAgainFor;
+        if (isForGood)
+            m_lost[sizeless(key)].remove(id); // Should somebody want it tried again.
+        else
+            m_lost[sizeless(key)].insert(id);
+        if (NxEngineMedia *media = stillWaiting(id, key))
+            noteLoss(media, key.kind, isForGood);
+        if (!self)
+            return;
+    }
+}
+
+void NxPictureService::noteLoss(NxEngineMedia *media, NxPictureKind kind, bool isForGood)
+{
+    if (!isForGood) {
+        m_reader->notePictureGone(media);
         return;
+    }
+    NxFootageRecord record = media->footage();
+    const bool isCover = kind == NxPictureKind::Cover;
+    (isCover ? record.cover : record.strip) = NxPictureState::Failed;
+    (isCover ? record.coverReason : record.stripReason) = QCoreApplication::translate(
+        "NxPictureService", "The picture was made but cannot be loaded from the cache folder.");
+    m_memory->setFootage(media, record);
+}
+
+void NxPictureService::tell(NxEngineMedia *media)
+{
     m_memory->category(media->category())
         ->itemObservers.tell([media](INxMediaItemEventObserver *observer) {
             observer->onMediaStateChangedEvent(media);
@@ -127,9 +191,8 @@ void NxPictureService::trimFolder()
 {
     if (m_madeSinceTrim++ % PicturesPerTrim != 0)
         return;
-    const qint64 limit
-        = m_limits.folderBytes > 0 ? m_limits.folderBytes : NxPictureCache::DefaultLimit;
-    m_threads.run([folder = m_reader->cacheFolder(), limit] {
-        NxPictureCache::trim(folder, limit);
-    });
+    const qint64 limit =
+        m_limits.folderBytes > 0 ? m_limits.folderBytes : NxPictureCache::DefaultLimit;
+    m_threads.run(
+        [folder = m_reader->cacheFolder(), limit] { NxPictureCache::trim(folder, limit); });
 }

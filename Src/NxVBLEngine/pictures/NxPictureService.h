@@ -12,7 +12,6 @@
 #include <QImage>
 #include <QObject>
 #include <QSet>
-#include <QTimer>
 
 class INxAbstractMedia;
 class NxEngineMedia;
@@ -31,30 +30,47 @@ public:
         int memoryKiB = 128 * 1024;
         qint64 folderBytes = 0; ///< 0: what NxPictureCache holds right.
     };
+    /// Tells those apart who ask, so that one gives up nothing that another one waits for. Never
+    /// looked into.
+    using Asker = const void *;
 
     /// Memory and reader must outlive the service.
     NxPictureService(NxProjectMemory *memory, NxFootageReader *reader, Limits limits);
     ~NxPictureService() override;
 
     /// The cover, fitted into `devicePixels`, or a null image.
-    [[nodiscard]] QImage cover(INxAbstractMedia *media, const QSize &devicePixels);
+    [[nodiscard]] QImage cover(Asker asker, INxAbstractMedia *media, const QSize &devicePixels);
     /// The film strip as it was made, or a null image.
-    [[nodiscard]] QImage strip(INxAbstractMedia *media);
-    /// What was asked for and did not come yet is not fetched.
-    void cancelRequests();
+    [[nodiscard]] QImage strip(Asker asker, INxAbstractMedia *media);
+    /// What nobody but the asker waits for, and did not come yet, is not fetched.
+    void cancelRequests(Asker asker);
 
 private:
-    [[nodiscard]] QImage picture(INxAbstractMedia *media, NxPictureKind kind, const QSize &size);
+    /// Who waits for a picture that is being fetched.
+    struct Awaited
+    {
+        QSet<qint64> media;
+        QSet<Asker> askers;
+        qint64 madeAgainFor = 0; // The media for which it was made again before it was ordered.
+    };
+
+    [[nodiscard]] QImage picture(Asker asker, INxAbstractMedia *item, const NxPictureKey &asked);
+    void order(const NxPictureKey &key, const NxEngineMedia *media, Awaited *awaited);
     void takeResults();
     void take(const NxPictureThreads::Result &result);
-    void tell(qint64 media);
+    void keep(const NxPictureThreads::Result &result);
+    void noteLoss(const NxPictureKey &key, const Awaited &awaited);
+    void noteLoss(NxEngineMedia *media, NxPictureKind kind, bool isForGood);
+    [[nodiscard]] NxEngineMedia *stillWaiting(qint64 id, const NxPictureKey &key) const;
+    void tell(NxEngineMedia *media);
     void trimFolder();
 
     NxProjectMemory *const m_memory; // Not owned, as the reader is not.
     NxFootageReader *const m_reader;
     const Limits m_limits;
     QCache<NxPictureKey, QImage> m_images; // By KiB.
-    QHash<NxPictureKey, QSet<qint64>> m_awaited; // For which media.
+    QHash<NxPictureKey, Awaited> m_awaited;
+    QHash<NxPictureKey, QSet<qint64>> m_lost; // Media whose picture was gone: it is made again.
     NxDoorbell m_bell;
     NxPictureThreads m_threads;
     int m_madeSinceTrim = 0;

@@ -4,6 +4,7 @@
 
 #include <NxVBLEngine/pictures/NxPictureCache.h>
 
+#include <QFile>
 #include <QImageReader>
 
 #include <chrono>
@@ -15,17 +16,47 @@ namespace {
 constexpr int ThreadCount = 2;
 constexpr std::chrono::hours IdleWait{1};
 
+/// A JPEG ends with this mark; one that was cut would be filled up with grey.
+bool isWhole(QFile *file)
+{
+    static const QByteArray mark("\xff\xd9");
+    return file->size() > mark.size() && file->seek(file->size() - mark.size())
+           && file->read(mark.size()) == mark && file->seek(0);
+}
+
+/// Anything else was put there by somebody else, and may be of any size.
+bool isSizeOf(NxPictureKind kind, const QSize &size)
+{
+    const QSize largest = kind == NxPictureKind::Cover
+                              ? QSize(NxPictureFile::CoverWidth, NxPictureFile::CoverHeight)
+                              : QSize(NxPictureFile::FrameWidth, NxPictureFile::StripHeight);
+    return !size.isEmpty() && size.boundedTo(largest) == size;
+}
+
+QImage decoded(const NxPictureKey &key, QIODevice *file)
+{
+    QImageReader reader(file, "jpg");
+    const QSize whole = reader.size();
+    if (!isSizeOf(key.kind, whole))
+        return {};
+    if (key.kind == NxPictureKind::Cover) {
+        const QSize fitting = whole.scaled(key.size, Qt::KeepAspectRatio);
+        if (fitting.width() < whole.width())
+            reader.setScaledSize(fitting.expandedTo(QSize(1, 1)));
+    }
+    return reader.read();
+}
+
 } // namespace
 
-NxPictureThreads::NxPictureThreads(NxDoorbellRope bell)
-    : m_shared(std::make_shared<Shared>())
+NxPictureThreads::NxPictureThreads(NxDoorbellRope bell) : m_shared(std::make_shared<Shared>())
 {
     m_shared->bell = std::move(bell);
 }
 
 NxPictureThreads::~NxPictureThreads()
 {
-    const std::vector<Order> dropped = m_shared->orders.drain();
+    (void)m_shared->orders.drain();
     m_shared->orders.close();
     for (std::thread &thread : m_threads)
         thread.join();
@@ -49,16 +80,18 @@ void NxPictureThreads::run(std::function<void()> chore)
     start();
 }
 
-std::vector<NxPictureKey> NxPictureThreads::dropWaiting()
+std::vector<NxPictureKey> NxPictureThreads::dropWaiting(const IsUnwanted &isUnwanted)
 {
-    std::vector<NxPictureKey> keys;
+    std::vector<NxPictureKey> dropped;
+    std::vector<Order> kept;
     for (Order &order : m_shared->orders.drain()) {
-        if (order.chore)
-            m_shared->orders.push(std::move(order));
+        if (!order.chore && isUnwanted(order.key))
+            dropped.push_back(order.key);
         else
-            keys.push_back(order.key);
+            kept.push_back(std::move(order));
     }
-    return keys;
+    m_shared->orders.pushAll(std::move(kept));
+    return dropped;
 }
 
 std::vector<NxPictureThreads::Result> NxPictureThreads::take()
@@ -83,16 +116,14 @@ void NxPictureThreads::work(const std::shared_ptr<Shared> &shared)
 
 QImage NxPictureThreads::loaded(const NxPictureKey &key, const QString &path)
 {
-    QImageReader reader(path, "jpg");
-    const QSize whole = reader.size();
-    if (key.kind == NxPictureKind::Cover && whole.isValid()) {
-        const QSize fitting = whole.scaled(key.size, Qt::KeepAspectRatio);
-        if (fitting.width() < whole.width())
-            reader.setScaledSize(fitting.expandedTo(QSize(1, 1)));
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly))
+        return {};
+    const QImage image = isWhole(&file) ? decoded(key, &file) : QImage();
+    if (image.isNull()) {
+        file.remove();
+        return {};
     }
-    const QImage image = reader.read();
-    if (image.isNull())
-        return image;
     NxPictureCache::noteUse(path);
     // The format that is painted without being converted each time.
     return image.convertToFormat(QImage::Format_RGB32);

@@ -22,17 +22,12 @@ class NXVBLENGINE_TEST_EXPORT NxPictureThreads
 {
     Q_DISABLE_COPY_MOVE(NxPictureThreads)
 public:
-    struct Order
-    {
-        NxPictureKey key;
-        QString path;
-        std::function<void()> chore; ///< Set: this is done instead.
-    };
     struct Result
     {
         NxPictureKey key;
         QImage image; ///< Null: the file is gone, or is no picture any more.
     };
+    using IsUnwanted = std::function<bool(const NxPictureKey &)>;
 
     /// `bell` is rung when results wait to be taken.
     explicit NxPictureThreads(NxDoorbellRope bell);
@@ -42,14 +37,22 @@ public:
     void load(const NxPictureKey &key, const QString &path);
     /// Runs anything that waits for a disk; it must bring its own way back.
     void run(std::function<void()> chore);
-    /// What waits is not loaded; answers its keys.
-    [[nodiscard]] std::vector<NxPictureKey> dropWaiting();
+    /// Of what waits, the unwanted is not loaded; answers its keys. The rest keeps its order.
+    [[nodiscard]] std::vector<NxPictureKey> dropWaiting(const IsUnwanted &isUnwanted);
     [[nodiscard]] std::vector<Result> take();
 
-    /// The picture of a file, fitted into `key.size` and never enlarged; null when there is none.
+    /// The picture of a file, a cover fitted into `key.size` and never enlarged; null when there
+    /// is none. A file that is no whole picture of this kind is removed: it hides that one is to
+    /// be made.
     [[nodiscard]] static QImage loaded(const NxPictureKey &key, const QString &path);
 
 private:
+    struct Order
+    {
+        NxPictureKey key;
+        QString path;
+        std::function<void()> chore; // Set: this is done instead.
+    };
     struct Shared
     {
         NxQueue<Order> orders;

@@ -94,6 +94,7 @@ private Q_SLOTS:
     void singleMediaAreAskedAlone();
     void filesAreAskedInTurn();
     void filesAreAskedInTurnWhenNothingElseIsWanted();
+    void lookingAgainFilesNothingTwice();
     void inTurnOnlyFilesThatAreInReach();
     void aPartialAnswerThatHidesAChangeIsFollowedByAWholeOne();
     void partialQuestionsSayThatTheyAre();
@@ -216,6 +217,19 @@ void tst_NxWatchedFolders::filesAreAskedInTurnWhenNothingElseIsWanted()
     QCOMPARE(f.take(), QStringLiteral("/: /g(b)"));
     f.watched.wantNext(1);
     QCOMPARE(f.take(), QStringLiteral("/: /f(a)"));
+}
+
+void tst_NxWatchedFolders::lookingAgainFilesNothingTwice()
+{
+    Watch f;
+    const NxEngineMedia *media = f.media(QStringLiteral("/f/a"));
+    f.media(QStringLiteral("/f/b"));
+    for (int i = 0; i < 3; ++i) {
+        f.watched.wantAgain({media->id()});
+        QCOMPARE(f.take(), QStringLiteral("/: /f(a)"));
+    }
+    f.watched.wantNext(10);
+    QCOMPARE(f.take(), QStringLiteral("/: /f(a b)"));
 }
 
 void tst_NxWatchedFolders::inTurnOnlyFilesThatAreInReach()
