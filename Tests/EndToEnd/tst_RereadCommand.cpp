@@ -23,6 +23,7 @@ private Q_SLOTS:
     void picturesThatWentAreMadeAgain();
     void aNameThatFitsNothingDoesNothing();
     void anImportLeavesReadingToLaterWhenAsked();
+    void whatWasNeverReadIsReadUnlessItIsGone();
     void copiesAreReported();
 
 private:
@@ -137,6 +138,18 @@ void tst_RereadCommand::anImportLeavesReadingToLaterWhenAsked()
     QVERIFY(yard().listed().first().value(QLatin1String("frames")).isNull());
     QCOMPARE(m_footage->info(clip).value(QLatin1String("read")).toString(),
              QStringLiteral("done"));
+    QVERIFY(yard().listed().first().value(QLatin1String("frames")).isDouble());
+}
+
+void tst_RereadCommand::whatWasNeverReadIsReadUnlessItIsGone()
+{
+    const QString clip = yard().clip(QStringLiteral("a.mp4"), bytes("avc.mp4"));
+    const QString gone = yard().clip(QStringLiteral("gone.mp4"), bytes("avc.mkv"));
+    VERIFY_CODE(yard().run("import", {clip, gone, QStringLiteral("--no-read")}), 0);
+    QVERIFY(QFile::remove(gone));
+    const ProgramResult result = yard().run("reread");
+    VERIFY_CODE(result, 0);
+    QCOMPARE(result.lines(), QList<QByteArray>{"1 media read, 0 failed"});
     QVERIFY(yard().listed().first().value(QLatin1String("frames")).isDouble());
 }
 

@@ -71,7 +71,7 @@ const QVector<CommandEntry> table{
     {"reread",
      {"PROJECT [NAME_OR_PATH...]"},
      "Reads the files of media once more and makes their pictures anew; without names, of all\n"
-     "media that could not be read or have no picture.",
+     "media that were not read yet, could not be read, or have no picture for another reason.",
      {json},
      1,
      any,

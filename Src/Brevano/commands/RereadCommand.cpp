@@ -9,6 +9,7 @@
 #include <Brevano/commands/InfoText.h>
 #include <Brevano/commands/InterruptWatcher.h>
 #include <Brevano/commands/JsonLine.h>
+#include <Brevano/commands/MediaFacts.h>
 #include <Brevano/commands/MediaResolver.h>
 #include <Brevano/commands/ProjectSession.h>
 #include <Brevano/commands/ShownText.h>
@@ -23,19 +24,26 @@ bool hasFailed(const NxFootageState &state)
            || state.strip == NxFootageStatus::Failed;
 }
 
-QList<INxAbstractMediaItem *> failedMedia(const ProjectSession &session)
+/// Failed before, or never tried, be it that an import was interrupted. What is missing waits.
+bool isToBeRead(const INxAbstractMediaItem &media, const NxFootageState &state)
 {
-    QList<INxAbstractMediaItem *> failed;
+    return hasFailed(state)
+           || (state.facts == NxFootageStatus::Waiting && !MediaFacts::isMissing(media));
+}
+
+QList<INxAbstractMediaItem *> mediaToBeRead(const ProjectSession &session)
+{
+    QList<INxAbstractMediaItem *> found;
     const QList<INxFolderMedia *> sections = session.sections();
     for (const INxFolderMedia *section : sections) {
         const QList<INxAbstractMedia *> items = section->items(true, true);
         for (INxAbstractMedia *item : items) {
             auto *media = dynamic_cast<INxAbstractMediaItem *>(item);
-            if (media && hasFailed(session.footage()->state(media)))
-                failed.append(media);
+            if (media && isToBeRead(*media, session.footage()->state(media)))
+                found.append(media);
         }
     }
-    return failed;
+    return found;
 }
 
 /// The first reason there is.
@@ -58,6 +66,7 @@ int RereadCommand::run(const CommandLine &line, Console *console)
     ProjectSession session(console);
     if (!session.open(line.names().constFirst(), ProjectSession::Access::Change))
         return ProjectUnusable;
+    session.engine().refreshExistence();
     const std::optional<QList<INxAbstractMediaItem *>> media = chosen(session, line);
     if (!media)
         return session.close(NothingDone);
@@ -68,7 +77,7 @@ std::optional<QList<INxAbstractMediaItem *>> RereadCommand::chosen(const Project
                                                                    const CommandLine &line)
 {
     if (line.names().size() == 1)
-        return failedMedia(session);
+        return mediaToBeRead(session);
     const MediaResolver::Answer answer =
         MediaResolver(session.sections()).resolve(line.names().mid(1));
     for (const QStringList &complaint : answer.complaints) {
@@ -89,7 +98,6 @@ std::optional<QList<INxAbstractMediaItem *>> RereadCommand::chosen(const Project
 int RereadCommand::reread(ProjectSession *session, const QList<INxAbstractMediaItem *> &media,
                           const InterruptWatcher &interrupts)
 {
-    session->engine().refreshExistence();
     FootageRun reading(session->footage(), m_console, interrupts);
     const FootageRun::Outcome outcome = reading.run([&media](INxFootageService *service) {
         service->read(media, INxFootageService::wFacts | INxFootageService::wPictures);

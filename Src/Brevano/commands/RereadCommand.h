@@ -12,7 +12,7 @@ class INxAbstractMediaItem;
 class InterruptWatcher;
 class ProjectSession;
 
-/// Reads files once more: those that are named, or all that failed.
+/// Reads files once more: those that are named, or all that failed or were never read.
 class RereadCommand final : public Command
 {
 public:
