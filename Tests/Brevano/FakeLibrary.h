@@ -14,20 +14,32 @@
 /// What a file would tell.
 struct FakeInfo final : INxMediaInfo
 {
-    int kind() const override { return NXVBLMODEL::mikVideo; }
+    int kind() const override { return infoKind; }
     int streamFlags() const override { return flags; }
     qint64 frameCount() const override { return frames; }
     NxRational frameRate() const override { return rate; }
-    const NxVideoStreamInfo *videoStream() const override { return &video; }
-    const NxAudioStreamInfo *audioStream() const override { return &audio; }
-    const NxImageInfo *imageInfo() const override { return &image; }
+    qint64 duration() const override { return length; }
+    const NxVideoStreamInfo *videoStream() const override { return hasVideo ? &video : nullptr; }
+    const NxAudioStreamInfo *audioStream() const override { return hasAudio ? &audio : nullptr; }
+    const NxImageInfo *imageInfo() const override { return hasImage ? &image : nullptr; }
+    QString timecode() const override { return clock; }
+    QString reelName() const override { return reel; }
+    QString textEncoding() const override { return encoding; }
 
+    int infoKind = NXVBLMODEL::mikVideo;
     int flags = NXVBLMODEL::sfVideo;
     qint64 frames = 0;
     NxRational rate;
     NxVideoStreamInfo video;
     NxAudioStreamInfo audio;
     NxImageInfo image;
+    bool hasVideo = true;
+    bool hasAudio = true;
+    bool hasImage = true;
+    qint64 length = 0; ///< As duration().
+    QString clock;
+    QString reel;
+    QString encoding;
 };
 
 /// A media of a name and a path, without a file; it answers what a test wrote into it.

@@ -46,5 +46,6 @@ bool ReadableProgram::copyAll() const
             .entryInfoList({QStringLiteral("libNx*.so.*")}, QDir::Files);
     const auto isCopied = [this](const QFileInfo &library) { return copyHere(library.filePath()); };
     return !libraries.isEmpty() && copyHere(QStringLiteral(NX_BREVANO))
+           && copyHere(QStringLiteral(NX_LIBRARY_DIR "/brevano-worker"))
            && std::all_of(libraries.begin(), libraries.end(), isCopied);
 }

@@ -9,6 +9,8 @@
 #include <QFile>
 #include <QtTest>
 
+#include <sys/stat.h>
+
 class tst_RereadCommand : public QObject
 {
     Q_OBJECT
@@ -24,6 +26,7 @@ private Q_SLOTS:
     void aNameThatFitsNothingDoesNothing();
     void anImportLeavesReadingToLaterWhenAsked();
     void whatWasNeverReadIsReadUnlessItIsGone();
+    void aFolderThatMayNotBeEnteredIsToldAndHarmsNothing();
     void copiesAreReported();
 
 private:
@@ -151,6 +154,31 @@ void tst_RereadCommand::whatWasNeverReadIsReadUnlessItIsGone()
     VERIFY_CODE(result, 0);
     QCOMPARE(result.lines(), QList<QByteArray>{"1 media read, 0 failed"});
     QVERIFY(yard().listed().first().value(QLatin1String("frames")).isDouble());
+}
+
+void tst_RereadCommand::aFolderThatMayNotBeEnteredIsToldAndHarmsNothing()
+{
+    const QString shut = yard().clip(QStringLiteral("shut/a.mp4"), bytes("avc.mp4"));
+    const QString open = yard().clip(QStringLiteral("b.mp4"), bytes("hevc.mkv"));
+    VERIFY_CODE(yard().run("import", {shut, open, QStringLiteral("--no-read")}), 0);
+    for (const QString &path :
+         {yard().folder().path(), yard().footage(), yard().project(), open})
+        QCOMPARE(::chmod(QFile::encodeName(path).constData(), 0777), 0);
+    const QByteArray folder = QFile::encodeName(yard().footage(QStringLiteral("shut")));
+    QCOMPARE(::chmod(folder.constData(), 0), 0);
+    const ProgramResult result =
+        ProgramRun::run({QStringLiteral("reread"), yard().project(), QStringLiteral("--json")}, {},
+                        ProgramRun::User::Nobody);
+    QCOMPARE(::chmod(folder.constData(), 0755), 0);
+
+    VERIFY_CODE(result, 3);
+    QCOMPARE(result.objects().size(), 2);
+    const QJsonObject refused = result.objects().first();
+    QCOMPARE(refused.value(QLatin1String("path")).toString(), shut);
+    QVERIFY2(result.said("a.mp4: "), result.story().constData());
+    QVERIFY2(result.said("permission") || result.said("cannot be opened"),
+             result.story().constData());
+    QCOMPARE(result.objects().last().value(QLatin1String("frames")).isDouble(), true);
 }
 
 void tst_RereadCommand::copiesAreReported()

@@ -47,3 +47,17 @@ endif()
 step("Running the example" ${CMAKE_COMMAND} -E env --unset=LD_LIBRARY_PATH
     ${example}/build/embedding)
 message("${step_output}")
+
+# The installed program finds the installed worker, and reads a file with it.
+file(WRITE ${WORK_DIR}/words.srt "1\n00:00:01,000 --> 00:00:02,000\nHello\n")
+set(brevano ${CMAKE_COMMAND} -E env --unset=LD_LIBRARY_PATH --unset=NX_WORKER ${prefix}/bin/brevano)
+step("Importing a file" ${brevano} import ${WORK_DIR}/Film.brevano ${WORK_DIR}/words.srt)
+step("Reading it" ${brevano} info ${WORK_DIR}/Film.brevano words.srt --json)
+string(FIND "${step_output}" "\"read\":\"done\"" position)
+if(position EQUAL -1)
+    message(FATAL_ERROR "The installed worker did not read the file:\n${step_output}")
+endif()
+file(GLOB worker ${prefix}/libexec/brevano/brevano-worker*)
+if(worker STREQUAL "")
+    message(FATAL_ERROR "The worker is not installed in libexec/brevano.")
+endif()

@@ -1,0 +1,177 @@
+// SPDX-FileCopyrightText: 2026 Brevano contributors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include "CachedPictures.h"
+
+#include <EngineEvents.h>
+#include <EngineFixture.h>
+
+#include <NxVBLEngine/NxEmbeddedEngine.h>
+#include <NxVBLEngine/NxEngineProject.h>
+#include <NxVBLModel/INxBsThumbManager.h>
+#include <NxVBLModel/NxMediaEngineDoor.h>
+#include <Support/NxTempDir.h>
+#include <Support/NxTestMain.h>
+
+#include <QtTest>
+
+#include <memory>
+
+using namespace CachedPictures;
+
+namespace {
+
+constexpr QSize Small{160, 90};
+
+using Handle = std::unique_ptr<INxBsThumbManager, void (*)(INxBsThumbManager *)>;
+
+Handle newHandle()
+{
+    return {createBsThumbManager(), &releaseThumbManager};
+}
+
+/// An engine that reads nothing by itself, and media whose pictures were made before.
+struct Library
+{
+    const NxTempDir dir;
+    std::unique_ptr<NxEmbeddedEngine> engine;
+    std::unique_ptr<NxMediaEngineDoor> door;
+
+    Library()
+    {
+        NxEmbeddedEngine::Options options;
+        options.backups = false;
+        options.readsFootage = false;
+        options.pictureFolder = dir.filePath(QStringLiteral("pictures"));
+        engine = std::make_unique<NxEmbeddedEngine>(options);
+        door = std::make_unique<NxMediaEngineDoor>(engine.get());
+    }
+    ~Library() { leave(); }
+    void leave()
+    {
+        door.reset();
+        engine.reset();
+    }
+    void createProject(const QString &name)
+    {
+        const auto created = engine->createProject(dir.filePath(name));
+        if (!created)
+            qFatal("%s", qUtf8Printable(created.errorText()));
+    }
+    NxEngineMedia *addMade(int number)
+    {
+        NxProjectMemory *memory =
+            static_cast<NxEngineProject *>(engine->currentProject())->memory();
+        NxMediaSeed seed;
+        seed.path = dir.write(QStringLiteral("%1.mp4").arg(number));
+        NxEngineFolder *section =
+            memory->category(NXVBLMODEL::mctMedia)->folder(NXVBLMODEL::fidRoot);
+        NxEngineMedia *media = memory->addNewMedia(section, {seed}).first();
+        NxFootageRecord record;
+        record.state = NxReadState::Read;
+        record.fingerprint = contents(number);
+        record.cover = record.strip = NxPictureState::Made;
+        memory->setFootage(media, record);
+        const QString folder = dir.filePath(QStringLiteral("pictures"));
+        write(folder, record.fingerprint, NxPictureKind::Cover, jpeg(WholeCover));
+        write(folder, record.fingerprint, NxPictureKind::Strip, jpeg(WholeStrip));
+        return media;
+    }
+};
+
+} // namespace
+
+/// A painter's handle lives as long as the painter, whatever becomes of projects.
+class tst_NxEngineThumbManager : public QObject
+{
+    Q_OBJECT
+private Q_SLOTS:
+    void aHandleMadeBeforeAProjectServesIt();
+    void aHandleServesTheNextProject();
+    void aHandleOutlivesProjectAndEngine();
+    void oneHandleGivesUpNothingOfAnothers();
+    void withoutAProjectThereAreNoPictures();
+};
+
+void tst_NxEngineThumbManager::aHandleMadeBeforeAProjectServesIt()
+{
+    Library f;
+    const Handle handle = newHandle();
+    QVERIFY(handle);
+    f.createProject(QStringLiteral("a.brevano"));
+    NxEngineMedia *media = f.addMade(1);
+    QVERIFY(handle->thumbnail(media, Small).isNull());
+    QVERIFY(handle->filmStrip(media).isNull());
+    QTRY_COMPARE(handle->thumbnail(media, Small).size(), Small);
+    QTRY_COMPARE(handle->filmStrip(media).size(), WholeStrip);
+}
+
+void tst_NxEngineThumbManager::aHandleServesTheNextProject()
+{
+    Library f;
+    f.createProject(QStringLiteral("a.brevano"));
+    const Handle handle = newHandle();
+    NxEngineMedia *first = f.addMade(1);
+    QTRY_VERIFY(!handle->thumbnail(first, Small).isNull());
+    QVERIFY(f.engine->closeProject());
+    QVERIFY(handle->thumbnail(nullptr, Small).isNull());
+    f.createProject(QStringLiteral("b.brevano"));
+    NxEngineMedia *second = f.addMade(2);
+    QTRY_VERIFY(!handle->thumbnail(second, Small).isNull());
+}
+
+void tst_NxEngineThumbManager::aHandleOutlivesProjectAndEngine()
+{
+    Library f;
+    f.createProject(QStringLiteral("a.brevano"));
+    Handle handle = newHandle();
+    NxEngineMedia *media = f.addMade(1);
+    QVERIFY(handle->thumbnail(media, Small).isNull()); // On its way.
+    QVERIFY(f.engine->closeProject());
+    handle->cancelRequests();
+    QVERIFY(handle->thumbnail(nullptr, Small).isNull());
+    f.leave();
+    QVERIFY(handle->thumbnail(nullptr, Small).isNull());
+    QVERIFY(handle->filmStrip(nullptr).isNull());
+    handle->cancelRequests();
+    handle.reset();
+}
+
+void tst_NxEngineThumbManager::oneHandleGivesUpNothingOfAnothers()
+{
+    Library f;
+    f.createProject(QStringLiteral("a.brevano"));
+    Handle one = newHandle();
+    const Handle other = newHandle();
+    QVERIFY(one != other);
+    QVector<NxEngineMedia *> media;
+    for (int i = 0; i < 20; ++i)
+        media.append(f.addMade(i));
+    f.engine->refreshExistence(); // From now on only pictures are told of.
+    EngineEvents events(media.first()->folder()->category());
+    for (NxEngineMedia *each : std::as_const(media)) {
+        QVERIFY(one->thumbnail(each, Small).isNull());
+        QVERIFY(other->thumbnail(each, Small).isNull());
+    }
+    one->cancelRequests();
+    one.reset();
+    QStringList told;
+    const auto allTold = [&] {
+        told += events.take();
+        return told.size() == media.size();
+    };
+    QTRY_VERIFY(allTold());
+    for (NxEngineMedia *each : std::as_const(media))
+        QVERIFY(!other->thumbnail(each, Small).isNull());
+}
+
+void tst_NxEngineThumbManager::withoutAProjectThereAreNoPictures()
+{
+    Library f;
+    const Handle handle = newHandle();
+    QVERIFY(handle->thumbnail(nullptr, Small).isNull());
+    QVERIFY(handle->filmStrip(nullptr).isNull());
+    handle->cancelRequests();
+}
+
+NX_TEST_MAIN(tst_NxEngineThumbManager)
+#include "tst_NxEngineThumbManager.moc"
