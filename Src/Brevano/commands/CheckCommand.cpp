@@ -10,7 +10,6 @@
 #include <Brevano/commands/ProjectSession.h>
 #include <Brevano/commands/ShownText.h>
 #include <NxVBLModel/INxAbstractMediaItem.h>
-#include <NxVBLModel/INxFolderMedia.h>
 
 int CheckCommand::run(const CommandLine &line, Console *console)
 {
@@ -44,22 +43,16 @@ void CheckCommand::checkFile(ProjectSession *session)
 void CheckCommand::checkMedia(ProjectSession *session)
 {
     session->engine().refreshExistence();
-    const QList<INxFolderMedia *> sections = session->sections();
-    for (const INxFolderMedia *section : sections) {
-        const QList<INxAbstractMedia *> items = section->items(true, true);
-        for (const INxAbstractMedia *item : items) {
-            const auto *media = dynamic_cast<const INxAbstractMediaItem *>(item);
-            if (!media)
-                continue;
-            ++m_media;
-            const QString reason = MediaFacts::unreadableReason(*media);
-            if (MediaFacts::isMissing(*media)) {
-                ++m_missing;
-                tellProblem("missing", media->unavailableReason(), media);
-            } else if (!reason.isEmpty()) {
-                ++m_unreadable;
-                tellProblem("unreadable", reason, media);
-            }
+    const QList<INxAbstractMediaItem *> all = session->media();
+    for (const INxAbstractMediaItem *media : all) {
+        ++m_media;
+        const QString reason = MediaFacts::unreadableReason(*media);
+        if (MediaFacts::isMissing(*media)) {
+            ++m_missing;
+            tellProblem("missing", media->unavailableReason(), media);
+        } else if (!reason.isEmpty()) {
+            ++m_unreadable;
+            tellProblem("unreadable", reason, media);
         }
     }
 }

@@ -56,12 +56,7 @@ std::optional<QVector<INxAbstractMedia *>> FolderOrMediaCommand::resolve(Project
 {
     const MediaResolver::Answer answer =
         MediaResolver(session->sections()).resolve(mediaNames(line));
-    for (const QStringList &complaint : answer.complaints) {
-        console->note(complaint.constFirst());
-        for (const QString &detail : complaint.mid(1))
-            console->detail(detail);
-    }
-    if (!answer.complaints.isEmpty())
+    if (!MediaResolver::isUnderstood(answer, console))
         return std::nullopt;
     return answer.media;
 }

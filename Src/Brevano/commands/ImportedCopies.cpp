@@ -3,7 +3,7 @@
 #include <Brevano/commands/ImportedCopies.h>
 
 #include <Brevano/commands/ProjectSession.h>
-#include <NxVBLModel/INxFolderMedia.h>
+#include <NxVBLModel/INxAbstractMediaItem.h>
 #include <NxVBLModel/INxFootageService.h>
 
 namespace {
@@ -18,18 +18,14 @@ bool isOlder(const INxAbstractMediaItem &a, const INxAbstractMediaItem &b)
 
 ImportedCopies::ImportedCopies(const ProjectSession &session) : m_service(session.footage())
 {
-    const QList<INxFolderMedia *> sections = session.sections();
-    for (const INxFolderMedia *section : sections) {
-        const QList<INxAbstractMedia *> items = section->items(true, true);
-        for (const INxAbstractMedia *item : items) {
-            const auto *media = dynamic_cast<const INxAbstractMediaItem *>(item);
-            const QByteArray contents = media ? m_service->state(media).fingerprint : QByteArray();
-            if (contents.isEmpty())
-                continue;
-            const INxAbstractMediaItem *&first = m_first[contents];
-            if (!first || isOlder(*media, *first))
-                first = media;
-        }
+    const QList<INxAbstractMediaItem *> all = session.media();
+    for (const INxAbstractMediaItem *media : all) {
+        const QByteArray contents = m_service->state(media).fingerprint;
+        if (contents.isEmpty())
+            continue;
+        const INxAbstractMediaItem *&first = m_first[contents];
+        if (!first || isOlder(*media, *first))
+            first = media;
     }
 }
 

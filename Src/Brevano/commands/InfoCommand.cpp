@@ -34,15 +34,10 @@ int InfoCommand::run(const CommandLine &line, Console *console)
         return ProjectUnusable;
     const MediaResolver::Answer answer =
         MediaResolver(session.sections()).resolve(line.names().mid(1));
-    for (const QStringList &complaint : answer.complaints) {
-        console->note(complaint.constFirst());
-        for (const QString &detail : complaint.mid(1))
-            console->detail(detail);
-    }
-    auto *media = answer.media.isEmpty()
-                      ? nullptr
-                      : dynamic_cast<INxAbstractMediaItem *>(answer.media.constFirst());
-    if (!media || !answer.complaints.isEmpty())
+    if (!MediaResolver::isUnderstood(answer, console) || answer.media.isEmpty())
+        return session.close(NothingDone);
+    auto *media = dynamic_cast<INxAbstractMediaItem *>(answer.media.constFirst());
+    if (!media)
         return session.close(NothingDone);
 
     session.engine().refreshExistence();

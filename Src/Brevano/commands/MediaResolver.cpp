@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include <Brevano/commands/MediaResolver.h>
 
+#include <Brevano/commands/Console.h>
 #include <Brevano/commands/Sections.h>
 #include <NxVBLModel/INxFolderMedia.h>
 #include <NxVBLModel/NxFolderPath.h>
@@ -91,4 +92,14 @@ QVector<INxAbstractMedia *> MediaResolver::findName(const QString &name)
         }
     }
     return m_byName.value(name);
+}
+
+bool MediaResolver::isUnderstood(const Answer &answer, Console *console)
+{
+    for (const QStringList &complaint : answer.complaints) {
+        console->note(complaint.constFirst());
+        for (const QString &detail : complaint.mid(1))
+            console->detail(detail);
+    }
+    return answer.complaints.isEmpty();
 }

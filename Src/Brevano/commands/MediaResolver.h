@@ -9,6 +9,7 @@
 #include <QStringList>
 #include <QVector>
 
+class Console;
 class INxAbstractMedia;
 class INxFolderMedia;
 
@@ -29,6 +30,8 @@ public:
     explicit MediaResolver(const QList<INxFolderMedia *> &sections);
 
     [[nodiscard]] Answer resolve(const ProgramArguments &words);
+    /// Says the complaints of an answer; true when there are none.
+    [[nodiscard]] static bool isUnderstood(const Answer &answer, Console *console);
     [[nodiscard]] static bool isPath(const QString &word);
 
 private:

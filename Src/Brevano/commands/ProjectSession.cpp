@@ -4,6 +4,7 @@
 
 #include <Brevano/commands/Console.h>
 #include <Brevano/commands/ExitCode.h>
+#include <NxVBLModel/INxAbstractMediaItem.h>
 #include <NxVBLModel/INxFolderMedia.h>
 #include <NxVBLModel/INxFolderMediaManager.h>
 #include <NxVBLModel/INxMediaImporter.h>
@@ -165,6 +166,20 @@ INxMediaImporter *ProjectSession::importer() const
 INxFootageService *ProjectSession::footage() const
 {
     return m_project->footageService();
+}
+
+QList<INxAbstractMediaItem *> ProjectSession::media() const
+{
+    QList<INxAbstractMediaItem *> all;
+    const QList<INxFolderMedia *> shown = sections();
+    for (const INxFolderMedia *section : shown) {
+        const QList<INxAbstractMedia *> items = section->items(true, true);
+        for (INxAbstractMedia *item : items) {
+            if (auto *media = dynamic_cast<INxAbstractMediaItem *>(item))
+                all.append(media);
+        }
+    }
+    return all;
 }
 
 QList<INxFolderMedia *> ProjectSession::sections() const

@@ -10,6 +10,7 @@
 #include <QList>
 
 class Console;
+class INxAbstractMediaItem;
 class INxFolderMedia;
 class INxFolderMediaManager;
 class INxFootageService;
@@ -56,6 +57,8 @@ public:
     [[nodiscard]] INxMediaImporter *importer() const;
     /// What reads the footage; only what it is asked to.
     [[nodiscard]] INxFootageService *footage() const;
+    /// Every media of the project, section by section, in the order of its folders.
+    [[nodiscard]] QList<INxAbstractMediaItem *> media() const;
     /// The sections in their order.
     [[nodiscard]] QList<INxFolderMedia *> sections() const;
     /// Whether the file is damaged; what is wrong with it was said when it was opened.

@@ -13,7 +13,7 @@
 #include <Brevano/commands/MediaResolver.h>
 #include <Brevano/commands/ProjectSession.h>
 #include <Brevano/commands/ShownText.h>
-#include <NxVBLModel/INxFolderMedia.h>
+#include <NxVBLModel/INxAbstractMediaItem.h>
 #include <NxVBLModel/INxFootageService.h>
 
 namespace {
@@ -34,14 +34,10 @@ bool isToBeRead(const INxAbstractMediaItem &media, const NxFootageState &state)
 QList<INxAbstractMediaItem *> mediaToBeRead(const ProjectSession &session)
 {
     QList<INxAbstractMediaItem *> found;
-    const QList<INxFolderMedia *> sections = session.sections();
-    for (const INxFolderMedia *section : sections) {
-        const QList<INxAbstractMedia *> items = section->items(true, true);
-        for (INxAbstractMedia *item : items) {
-            auto *media = dynamic_cast<INxAbstractMediaItem *>(item);
-            if (media && isToBeRead(*media, session.footage()->state(media)))
-                found.append(media);
-        }
+    const QList<INxAbstractMediaItem *> all = session.media();
+    for (INxAbstractMediaItem *media : all) {
+        if (isToBeRead(*media, session.footage()->state(media)))
+            found.append(media);
     }
     return found;
 }
@@ -80,12 +76,7 @@ std::optional<QList<INxAbstractMediaItem *>> RereadCommand::chosen(const Project
         return mediaToBeRead(session);
     const MediaResolver::Answer answer =
         MediaResolver(session.sections()).resolve(line.names().mid(1));
-    for (const QStringList &complaint : answer.complaints) {
-        m_console->note(complaint.constFirst());
-        for (const QString &detail : complaint.mid(1))
-            m_console->detail(detail);
-    }
-    if (!answer.complaints.isEmpty())
+    if (!MediaResolver::isUnderstood(answer, m_console))
         return std::nullopt;
     QList<INxAbstractMediaItem *> media;
     for (INxAbstractMedia *item : answer.media) {
