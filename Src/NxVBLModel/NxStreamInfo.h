@@ -40,4 +40,6 @@ struct NxImageInfo
 {
     QSize size; ///< px, orientation applied.
     QString exifMaker;
+    QString format; ///< e.g. "jpeg".
+    int rotation = 0; ///< Degrees clockwise that were applied, after mirroring: 0, 90, 180, 270.
 };

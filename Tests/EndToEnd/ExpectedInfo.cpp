@@ -98,6 +98,10 @@ void addPictures(const NxFootageTruth &truth, QJsonObject *expected)
 {
     expected->insert(QStringLiteral("width"), numberOrNull(truth.size.width()));
     expected->insert(QStringLiteral("height"), numberOrNull(truth.size.height()));
+    if (truth.kind == NxFootageKind::Image) {
+        expected->insert(QStringLiteral("rotation"), truth.rotation);
+        expected->insert(QStringLiteral("codec"), truth.videoCodec);
+    }
     if (!truth.isFilm()) {
         expected->insert(QStringLiteral("frames"), QJsonValue());
         expected->insert(QStringLiteral("fps"), QJsonValue());

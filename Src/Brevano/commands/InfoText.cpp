@@ -61,21 +61,24 @@ QString framesText(const NxRational &rate, bool isVariable)
         .arg(rateText(rate), isVariable ? QStringLiteral(" (they vary)") : QString());
 }
 
+QString turnedText(int rotation)
+{
+    return rotation == 0 ? QString() : QStringLiteral("turned by %1 degrees").arg(rotation);
+}
+
 QString pictureText(const INxMediaInfo &info)
 {
     if (const NxImageInfo *image = info.imageInfo())
-        return sizeText(image->size);
+        return joined({sizeText(image->size), image->format, turnedText(image->rotation)});
     const NxVideoStreamInfo *video = info.videoStream();
     if (!video)
         return {};
     const QString depth =
         video->bitDepth > 0 ? QStringLiteral("%1 bit").arg(video->bitDepth) : QString();
-    const QString turned = video->rotation != 0
-                               ? QStringLiteral("turned by %1 degrees").arg(video->rotation)
-                               : QString();
     return joined({sizeText(video->frameSize),
                    framesText(info.frameRate(), video->variableFrameRate),
-                   withTag(video->codecName, video->codecTag), video->pixelFormat, depth, turned});
+                   withTag(video->codecName, video->codecTag), video->pixelFormat, depth,
+                   turnedText(video->rotation)});
 }
 
 QString soundText(const INxMediaInfo &info)

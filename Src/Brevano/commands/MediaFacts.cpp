@@ -143,14 +143,18 @@ void MediaFacts::addContents(JsonLine *line, const INxAbstractMediaItem &media)
 {
     const Facts facts = factsOf(media.mediaInfo());
     const bool isMoving = !facts.video.frameSize.isEmpty();
+    const bool isStill = !isMoving && !facts.image.size.isEmpty();
     const QSize size = isMoving ? facts.video.frameSize : facts.image.size;
-    const QString codec = isMoving ? facts.video.codecName : facts.audio.format;
+    const QString codec = isMoving  ? facts.video.codecName
+                          : isStill ? facts.image.format
+                                    : facts.audio.format;
+    const int rotation = isMoving ? facts.video.rotation : facts.image.rotation;
     line->addNumberOrNull("duration_ms", facts.milliseconds, facts.milliseconds > 0);
     line->addNumberOrNull("frames", facts.frames, facts.frames > 0);
     line->addTextOrNull("fps", rateText(facts.rate));
     line->addNumberOrNull("width", size.width(), !size.isEmpty());
     line->addNumberOrNull("height", size.height(), !size.isEmpty());
-    line->addNumberOrNull("rotation", facts.video.rotation, isMoving);
+    line->addNumberOrNull("rotation", rotation, isMoving || isStill);
     line->addTextOrNull("codec", codec);
     line->addNumberOrNull("sample_rate", facts.audio.sampleRate, facts.audio.sampleRate > 0);
     line->addNumberOrNull("channels", facts.audio.channels, facts.audio.channels > 0);

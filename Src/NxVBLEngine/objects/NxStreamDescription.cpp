@@ -79,7 +79,7 @@ NxStreamDescription::NxStreamDescription(const NxFootageStreams &read) : streams
     if (streamFlags & sfVideo)
         video = videoOf(read);
     if (streamFlags & sfImage)
-        image = {sizeOf(read), read.cameraMaker};
+        image = {sizeOf(read), read.cameraMaker, read.videoCodec, read.rotation};
     if (streamFlags & sfAudio) {
         audio = audioOf(read);
         audioFormat = audioText(read.sampleRate, read.channels);

@@ -74,13 +74,17 @@ private Q_SLOTS:
         QCOMPARE(is.camera, QStringLiteral("Maker Model 1"));
     }
 
-    void aPictureTellsItsSizeAndTheMakerOfItsCamera()
+    void aPictureTellsItsSizeFormatAndTheMakerOfItsCamera()
     {
         NxFootageStreams streams = NxFootageSamples::ofKind(NxFootageKind::Image).facts.streams;
         streams.cameraMaker = QStringLiteral("Maker");
+        streams.videoCodec = QStringLiteral("jpeg");
+        streams.rotation = 270;
         const NxStreamDescription is(streams);
         QCOMPARE(is.image.size, QSize(640, 360));
         QCOMPARE(is.image.exifMaker, QStringLiteral("Maker"));
+        QCOMPARE(is.image.format, QStringLiteral("jpeg"));
+        QCOMPARE(is.image.rotation, 270);
     }
 
     void anUnknownSizeIsNoSize()

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "CachedPictures.h"
 
+#include <RawFiles.h>
+
 #include <QBuffer>
 #include <QDir>
 #include <QFile>
@@ -52,6 +54,24 @@ void CachedPictures::setLastUse(const QString &path, const QDateTime &time)
                        && file.setFileTime(time, QFileDevice::FileModificationTime);
     if (!isSet)
         qFatal("%s", qUtf8Printable(file.errorString()));
+}
+
+CachedPictures::Jam::Jam(const QString &folder, const NxFingerprint &contents)
+    : m_pipe(path(folder, contents, NxPictureKind::Cover))
+{
+    if (!QDir().mkpath(QFileInfo(m_pipe).path()))
+        qFatal("no folder for %s", qUtf8Printable(m_pipe.fileName()));
+    QFile::remove(m_pipe.fileName());
+    RawFiles::makePipe(m_pipe.fileName());
+}
+
+void CachedPictures::Jam::release()
+{
+    // Both ends: it waits for nobody, and lets go whoever waits.
+    const bool isOpen =
+        m_pipe.isOpen() || m_pipe.open(QIODevice::ReadWrite | QIODevice::Unbuffered);
+    if (!isOpen && QFile::exists(m_pipe.fileName()))
+        qFatal("%s", qUtf8Printable(m_pipe.errorString()));
 }
 
 bool CachedPictures::isAlike(const QColor &a, const QColor &b)

@@ -7,6 +7,7 @@
 #include <QByteArray>
 #include <QColor>
 #include <QDateTime>
+#include <QFile>
 #include <QSize>
 #include <QString>
 
@@ -28,5 +29,19 @@ QString write(const QString &folder, const NxFingerprint &contents, NxPictureKin
 void setLastUse(const QString &path, const QDateTime &time);
 /// JPEG changes colours a little.
 [[nodiscard]] bool isAlike(const QColor &a, const QColor &b);
+
+/// A cover whose file does not answer: whoever loads it waits, and finds it gone in the end.
+class Jam
+{
+    Q_DISABLE_COPY_MOVE(Jam)
+public:
+    Jam(const QString &folder, const NxFingerprint &contents);
+    ~Jam() { release(); }
+
+    void release();
+
+private:
+    QFile m_pipe;
+};
 
 } // namespace CachedPictures
