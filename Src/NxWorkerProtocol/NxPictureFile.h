@@ -35,7 +35,7 @@ constexpr int StripHeight = Moments * RowsPerMoment * FrameHeight; ///< 4860 px
     return durationUs / Moments;
 }
 
-/// The path below the cache folder, e.g. "3f/3f0c...-6291456-cover-1.jpg". It names the contents
+/// The path below the cache folder, e.g. "3f/3f0c...-1-6291456-cover-1.jpg". It names the contents
 /// of the file and the way the picture was made, so whoever knows both finds it.
 [[nodiscard]] QString name(const NxFingerprint &fingerprint, NxPictureKind kind);
 
