@@ -282,6 +282,9 @@ void tst_InfoText::theStateOfReadingIsShown()
     state.reason = QStringLiteral("It is damaged.");
     QTEST(valueOf(f.lines(state), "State"), "shown");
     QTEST(!valueOf(f.lines(state), "Picture").isEmpty(), "hasContents");
+    const bool hasFailed = state.facts == NxFootageStatus::Failed;
+    QCOMPARE(valueOf(f.lines(state), "Cover").isEmpty(), hasFailed);
+    QCOMPARE(valueOf(f.lines(state), "Film strip").isEmpty(), hasFailed);
 }
 
 void tst_InfoText::theStateOfPicturesIsShown_data()

@@ -174,9 +174,11 @@ QStringList InfoText::lines(const INxAbstractMediaItem &media, const NxFootageSt
 {
     Sheet sheet;
     addFile(&sheet, media);
-    if (state.facts == NxFootageStatus::Failed)
+    if (state.facts == NxFootageStatus::Failed) {
         sheet.add("State", QStringLiteral("unreadable: %1").arg(state.reason));
-    else if (state.facts == NxFootageStatus::Waiting)
+        return sheet.lines(); // No picture is to come.
+    }
+    if (state.facts == NxFootageStatus::Waiting)
         sheet.add("State", QStringLiteral("not read yet"));
     else
         addContents(&sheet, media);
