@@ -30,3 +30,13 @@ bool INxUndoStack::isInStep() const
 {
     return m_depth > 0;
 }
+
+INxUndoStack::ReplayScope::ReplayScope(INxUndoStack *stack) : m_stack(stack)
+{
+    m_stack->m_isReplaying = true;
+}
+
+INxUndoStack::ReplayScope::~ReplayScope()
+{
+    m_stack->m_isReplaying = false;
+}

@@ -28,6 +28,10 @@ public:
     /// Whether a step is open.
     [[nodiscard]] bool isInStep() const;
 
+    /// Whether a step is being taken back or done again at this moment: what is told to observers
+    /// meanwhile was done before.
+    [[nodiscard]] bool isReplaying() const { return m_isReplaying; }
+
     /// Takes back or does again one step. False when there is none, or a step is open.
     virtual bool undo() = 0;
     virtual bool redo() = 0;
@@ -42,7 +46,8 @@ public:
     [[nodiscard]] virtual int index() const = 0;
 
 Q_SIGNALS:
-    /// The history changed: what the other queries answer may be different now.
+    /// The history changed: what the other queries answer may be different now. After undo() and
+    /// redo() everything stands as it did when this is told.
     void changed();
 
 protected:
@@ -50,6 +55,19 @@ protected:
     virtual void openStep(const QString &function, const QString &action) = 0;
     virtual void closeStep() = 0;
 
+    /// Lives in undo() and redo() while changes are replayed.
+    class NXCORE_EXPORT ReplayScope
+    {
+    public:
+        explicit ReplayScope(INxUndoStack *stack);
+        ~ReplayScope();
+
+    private:
+        Q_DISABLE_COPY_MOVE(ReplayScope)
+        INxUndoStack *const m_stack; // Not owned.
+    };
+
 private:
     int m_depth = 0;
+    bool m_isReplaying = false;
 };

@@ -22,3 +22,8 @@ INxTimeline *INxClip::timeline() const
 {
     return nullptr;
 }
+
+NxClipPlace INxClip::place() const
+{
+    return {};
+}

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #pragma once
 
+#include <NxVBLModel/NxClipPlace.h>
 #include <NxVBLModel/NxMediaTypes.h>
 #include <NxVBLModel/NxVBLModelExport.h>
 
@@ -24,6 +25,9 @@ public:
     [[nodiscard]] virtual int kind() const = 0;
     /// INxAbstractMedia::mediaId() of the media; empty for a clip without one.
     [[nodiscard]] virtual QString mediaId() const;
-    /// The timeline that shows the clip; null for a clip alone.
+    /// The timeline that shows the clip, for one inside a split screen that of the split screen;
+    /// null for a clip alone.
     [[nodiscard]] virtual INxTimeline *timeline() const;
+    /// Inside a split screen: the place of the split screen, with an in-point of its own.
+    [[nodiscard]] virtual NxClipPlace place() const;
 };

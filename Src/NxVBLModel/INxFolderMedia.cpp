@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include <NxVBLModel/INxFolderMedia.h>
 
+#include <algorithm>
+
 namespace {
 
 INxAbstractMedia *firstWith(const INxFolderMedia *folder, bool recursive, const QString &wanted,
@@ -31,6 +33,13 @@ INxFolderMedia::~INxFolderMedia() = default;
 NXVBLMODEL::NxMediaType INxFolderMedia::mediaType() const
 {
     return NXVBLMODEL::mtFolder;
+}
+
+int INxFolderMedia::listedPlace(const INxAbstractMedia *media, bool recursive) const
+{
+    const QList<INxAbstractMedia *> listed = items(recursive, true);
+    const auto found = std::find(listed.begin(), listed.end(), media);
+    return found == listed.end() ? -1 : int(found - listed.begin());
 }
 
 INxAbstractMedia *INxFolderMedia::lastMedia(bool recursive) const

@@ -39,6 +39,10 @@ public:
     /// The last of items(recursive, true); null when there is none. Asked at every addition, so an
     /// engine that expects many media answers without listing them.
     [[nodiscard]] virtual INxAbstractMedia *lastMedia(bool recursive) const;
+    /// The place of a media in items(recursive, true); -1 when it is not listed. Asked when a media
+    /// comes back that is not the last one, so an engine that expects many media answers without
+    /// listing them.
+    [[nodiscard]] virtual int listedPlace(const INxAbstractMedia *media, bool recursive) const;
     /// False for the folder itself.
     [[nodiscard]] virtual bool contains(const INxFolderMedia *folder, bool recursive) const;
     /// Walks up the media's parents: O(depth).

@@ -46,6 +46,8 @@ public:
 
     /// The folder whose contents are listed at the moment; may be null.
     [[nodiscard]] virtual INxFolderMedia *currentRoot() const;
+    /// Makes a folder the current root, and asks its service, if it has one, for its contents anew.
+    /// What then changes is announced; of what is always up to date nothing is.
     virtual void refresh(INxFolderMedia *folder);
     virtual void resetResourceLoader(INxFolderMedia *folder);
 

@@ -31,6 +31,11 @@ INxFootageService *INxProject::footageService()
     return nullptr;
 }
 
+INxRelinkSearch *INxProject::relinkSearch()
+{
+    return nullptr;
+}
+
 QList<NxTimelineUse> INxProject::timelineUses(const QString &)
 {
     return {};
@@ -39,6 +44,11 @@ QList<NxTimelineUse> INxProject::timelineUses(const QString &)
 QList<INxTimeline *> INxProject::timelines()
 {
     return {};
+}
+
+INxTimelineEditor *INxProject::timelineEditor()
+{
+    return nullptr;
 }
 
 void INxProject::requestCommit(std::function<void(const NxResult<void> &)> done)

@@ -12,7 +12,9 @@
 
 class INxFootageService;
 class INxMediaLibrary;
+class INxRelinkSearch;
 class INxTimeline;
+class INxTimelineEditor;
 class INxUndoStack;
 struct NxTimelineUse;
 
@@ -33,9 +35,15 @@ public:
     [[nodiscard]] virtual INxUndoStack *undoStack();
     /// What reads the project's files; owned by the project, null when nothing does.
     [[nodiscard]] virtual INxFootageService *footageService();
-    /// Where timelines use a media; empty when nowhere.
+    /// What finds files that were moved; owned by the project, null when nothing does.
+    [[nodiscard]] virtual INxRelinkSearch *relinkSearch();
+    /// Where timelines use a media, composite ones included; empty when nowhere. The use of a clip
+    /// inside a split screen names the timeline that shows the split screen.
     [[nodiscard]] virtual QList<NxTimelineUse> timelineUses(const QString &mediaId);
+    /// Every timeline, composite ones included, each behind the one it stands on.
     [[nodiscard]] virtual QList<INxTimeline *> timelines();
+    /// Builds timelines; owned by the project, null when the project's timelines are the host's.
+    [[nodiscard]] virtual INxTimelineEditor *timelineEditor();
 
     /// Asks for everything done so far to be on disk, and returns at once. `done` is called on the
     /// GUI thread after the commit, or with the reason why there is none; it may be empty.

@@ -13,6 +13,16 @@ INxTimeline *INxTimeline::createInstance(INxClip *clip)
     return engine && clip ? engine->createTimeline(clip) : nullptr;
 }
 
+QString INxTimeline::name() const
+{
+    return {};
+}
+
+int INxTimeline::trackCount()
+{
+    return clips().isEmpty() ? 0 : 1;
+}
+
 void INxTimeline::setOutputSize(int, int) {}
 
 qint64 INxTimeline::frameCount()

@@ -5,6 +5,7 @@
 #include <NxVBLModel/NxVBLModelExport.h>
 
 #include <QList>
+#include <QString>
 
 class INxClip;
 
@@ -19,10 +20,16 @@ public:
     /// installed or the clip is null. The caller owns it.
     [[nodiscard]] static INxTimeline *createInstance(INxClip *clip);
 
+    /// Empty for one that is only a preview.
+    [[nodiscard]] virtual QString name() const;
+    /// How many tracks hold clips, empty ones between them included.
+    [[nodiscard]] virtual int trackCount();
+    /// By track, then by position. Clips inside split screens and composite timelines are theirs.
     [[nodiscard]] virtual QList<INxClip *> clips() = 0;
-    /// False when the timeline does not hold the clip.
+    /// Takes the clip away with all that it shows. False when the timeline does not hold it.
     virtual bool removeClip(INxClip *clip) = 0;
-    /// Takes the clip over. `position` in frames of the timeline.
+    /// Takes the clip over. `position` in frames of the timeline. A project's timeline takes back
+    /// clips that were removed from it; false for others, and where it has no room.
     virtual bool insertClip(INxClip *clip, int track, qint64 position) = 0;
     /// px.
     virtual void setOutputSize(int width, int height);

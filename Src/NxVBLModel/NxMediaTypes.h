@@ -220,9 +220,10 @@ enum NxResourceAttribute : int {
 /// INxClip::kind().
 enum NxClipKind : int {
     ckUnknown = 0,
-    ckVideo = 1,
+    ckVideo = 1, ///< Moving or still pictures.
     ckAudio = 2,
     ckSplitScreen = 3,
+    ckComposite = 4, ///< Stands for a timeline.
 };
 
 /// Parts of a composed element (media type 12).

@@ -41,6 +41,9 @@ public:
                            [](const Observer *observer) { return !observer; });
     }
 
+    /// True while observers are being told of something.
+    [[nodiscard]] bool isTelling() const { return m_depth > 0; }
+
     /// Calls `what` with each observer. Events may be told while one is being told.
     template<typename Tell>
     void tell(const Tell &what)
