@@ -5,6 +5,8 @@
 #include "NxMessageText_p.h"
 
 #include <NxCore/NxCustomProductInfo.h>
+#include <NxCore/NxLog.h>
+#include <NxWidgets/NxDialogScript.h>
 #include <NxWidgets/NxMaskScope.h>
 
 #include <QCheckBox>
@@ -73,6 +75,19 @@ QFont smaller(QFont font)
     else
         font.setPixelSize(std::max(1, int(font.pixelSize() * ratio)));
     return font;
+}
+
+/// The answer of a script, as far as a user could have given it.
+NMessageDialogAnswer possible(NMessageDialogAnswer answer, const NMessageDialogInfo &info)
+{
+    answer.isChecked = answer.isChecked && !info.checkBoxText.isEmpty();
+    const QList<int> shown = info.buttons.isEmpty() ? QList<int>{mdbAffirmative} : info.buttons;
+    if (shown.contains(answer.button) || answer.button == info.escapeButton)
+        return answer;
+    NX_LOG_ERROR_AS("NMessageDialog::Ask", "\"%s\" has no button %d", qUtf8Printable(info.text),
+                    answer.button);
+    answer.button = info.escapeButton;
+    return answer;
 }
 
 /// Alt and the first letter that no other caption has taken.
@@ -203,6 +218,16 @@ bool NMessageDialog::isCheckBoxChecked() const
     return m_checkBox && m_checkBox->isChecked();
 }
 
+NMessageDialogAnswer NMessageDialog::Ask(QWidget *parent, const NMessageDialogInfo &info)
+{
+    if (INxDialogAnswerer *script = NxDialogScript::current())
+        return possible(script->answer(info), info);
+    NMessageDialog dialog(parent);
+    dialog.Init(info);
+    const int button = dialog.ShowModel();
+    return {button, dialog.isCheckBoxChecked()};
+}
+
 bool NMessageDialog::Question_YesNo(QWidget *parent, const QString &title, const QString &text)
 {
     NMessageDialogInfo info;
@@ -211,9 +236,7 @@ bool NMessageDialog::Question_YesNo(QWidget *parent, const QString &title, const
     info.text = text;
     info.buttons = {mdbAffirmative, mdbNegative};
     info.escapeButton = mdbNegative;
-    NMessageDialog dialog(parent);
-    dialog.Init(info);
-    return dialog.ShowModel() == mdbAffirmative;
+    return Ask(parent, info).button == mdbAffirmative;
 }
 
 void NMessageDialog::Infomation(QWidget *parent, const QString &title, const QString &text)
@@ -221,7 +244,5 @@ void NMessageDialog::Infomation(QWidget *parent, const QString &title, const QSt
     NMessageDialogInfo info;
     info.title = title;
     info.text = text;
-    NMessageDialog dialog(parent);
-    dialog.Init(info);
-    dialog.ShowModel();
+    Q_UNUSED(Ask(parent, info)) // There is nothing to choose.
 }

@@ -37,6 +37,10 @@ public:
     /// Whether the check box is checked, also after the dialog was closed; false without one.
     [[nodiscard]] bool isCheckBoxChecked() const;
 
+    /// Shows a dialog and waits for its answer; while an NxDialogScript lives nothing is shown and
+    /// the script answers. The two below go the same way.
+    [[nodiscard]] static NMessageDialogAnswer Ask(QWidget *parent, const NMessageDialogInfo &info);
+
     /// Asks a question with the buttons Yes and No; true for Yes. Closing it means No.
     /// @param title the product's name when empty.
     [[nodiscard]] static bool Question_YesNo(QWidget *parent, const QString &title,

@@ -36,3 +36,10 @@ struct NMessageDialogInfo
     QString checkBoxText; ///< Empty for no check box.
     bool isCheckBoxChecked = false; ///< At first.
 };
+
+/// How the user answered.
+struct NMessageDialogAnswer
+{
+    int button = mdbClosed; ///< The code of the pressed button, or the escape button's.
+    bool isChecked = false; ///< The check box at the end; false without one.
+};

@@ -83,6 +83,10 @@ private Q_SLOTS:
     void survivesItsParent();
     void canBeShownAfterItsParentDied();
     void mayBeDeletedWhileItWaits();
+    void asksForAnAnswer_data();
+    void asksForAnAnswer();
+    void asksAboveItsParent();
+    void answersAsClosedWhenItsParentDies();
     void asksYesOrNo_data();
     void asksYesOrNo();
     void tellsWithASingleButton_data();
@@ -336,6 +340,73 @@ void tst_NMessageDialog::mayBeDeletedWhileItWaits()
     const DialogUser user([](NMessageDialog &shown) { delete &shown; });
     QCOMPARE(dialog->ShowModel(), int(mdbNegative));
     QVERIFY(!NMaskManager::GetInstance()->IsMaskVisible());
+}
+
+void tst_NMessageDialog::asksForAnAnswer_data()
+{
+    QTest::addColumn<Keys>("keys");
+    QTest::addColumn<bool>("checks");
+    QTest::addColumn<int>("code");
+    const auto row = [](const char *name, const Keys &keys, int code) {
+        const QByteArray checked = QByteArray(name) + ", checked";
+        QTest::newRow(name) << keys << false << code;
+        QTest::newRow(checked.constData()) << keys << true << code;
+    };
+    row("RELOCATE", {Qt::ALT + Qt::Key_R}, mdbAffirmative);
+    row("DELETE", {Qt::ALT + Qt::Key_D}, mdbNegative);
+    row("IGNORE", {Qt::ALT + Qt::Key_I}, mdbClosed);
+    row("Return", {Qt::Key_Return}, mdbNegative);
+    row("Escape", {Qt::Key_Escape}, 99);
+    row("the window's close", {}, 99);
+}
+
+void tst_NMessageDialog::asksForAnAnswer()
+{
+    QFETCH(Keys, keys);
+    QFETCH(bool, checks);
+    QFETCH(int, code);
+    NMessageDialogInfo info = threeWays();
+    info.checkBoxText = QStringLiteral("Stop asking for now.");
+    info.defaultButton = mdbNegative;
+    info.escapeButton = 99;
+    const DialogUser user([&](NMessageDialog &dialog) {
+        auto *box = dialog.findChild<QCheckBox *>(QStringLiteral("checkBox"));
+        if (checks)
+            QTest::mouseClick(box, Qt::LeftButton, {}, QPoint(8, box->height() / 2));
+        if (keys.isEmpty())
+            dialog.close();
+        else
+            DialogUser::typing(keys)(dialog);
+    });
+    const NMessageDialogAnswer answer = NMessageDialog::Ask(nullptr, info);
+    QCOMPARE(answer.button, code);
+    QCOMPARE(answer.isChecked, checks);
+    QCOMPARE(user.dialogs(), 1);
+}
+
+void tst_NMessageDialog::asksAboveItsParent()
+{
+    QWidget parent;
+    const DialogUser user([&parent](NMessageDialog &dialog) {
+        QCOMPARE(dialog.parentWidget(), &parent);
+        QVERIFY(NMaskManager::GetInstance()->IsMaskVisible());
+        DialogUser::clicking(mdbAffirmative)(dialog);
+    });
+    const NMessageDialogAnswer answer = NMessageDialog::Ask(&parent, yesOrNo());
+    QCOMPARE(answer.button, int(mdbAffirmative));
+    QVERIFY(!answer.isChecked);
+}
+
+void tst_NMessageDialog::answersAsClosedWhenItsParentDies()
+{
+    Window window;
+    NMessageDialogInfo info = yesOrNo();
+    info.checkBoxText = QStringLiteral("Stop asking for now.");
+    info.isCheckBoxChecked = true;
+    const DialogUser user([&window](const NMessageDialog &) { window.window.reset(); });
+    const NMessageDialogAnswer answer = NMessageDialog::Ask(window.view, info);
+    QCOMPARE(answer.button, int(mdbNegative));
+    QVERIFY(answer.isChecked);
 }
 
 void tst_NMessageDialog::asksYesOrNo_data()
