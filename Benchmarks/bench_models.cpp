@@ -72,8 +72,9 @@ std::unique_ptr<NxEngineMedia> makeMedia(int number, QRandomGenerator &random)
     record.size = random.bounded(1 << 30);
     record.created = 1400000000000LL + qint64(random.bounded(300000000)) * 1000;
     record.modified = record.created;
-    record.used = random.bounded(1000);
-    return std::make_unique<NxEngineMedia>(record);
+    auto media = std::make_unique<NxEngineMedia>(record);
+    media->setUsed(random.bounded(1000));
+    return media;
 }
 
 /// The media of a folder, and a model that follows them.

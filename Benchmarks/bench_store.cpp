@@ -74,9 +74,17 @@ std::vector<BareRow> bareRows(int count)
     for (int number = 0; number < count; ++number) {
         const NxMediaRecord media = recordOf(number);
         BareRow row;
-        row.numbers = {media.id,   media.category,   media.folder,   media.place,
-                       media.size, media.created,    media.modified, 0,
-                       media.used, media.importKind, media.kindCode, 1};
+        row.numbers = {media.id,
+                       media.category,
+                       media.folder,
+                       media.place,
+                       media.size,
+                       media.created,
+                       media.modified,
+                       0,
+                       media.importKind,
+                       media.kindCode,
+                       1};
         for (const QString &text :
              {media.name, media.path, media.canonicalPath, media.relativePath})
             row.texts.push_back(text.toStdString());
@@ -112,13 +120,13 @@ double insertBare(const QString &path, const std::vector<BareRow> &rows)
                   "PRAGMA cache_size = -32768; PRAGMA secure_delete = OFF;"
                   "CREATE TABLE media(id INTEGER PRIMARY KEY, category INTEGER, folder INTEGER,"
                   " place INTEGER, size INTEGER, created INTEGER, modified INTEGER,"
-                  " favourite INTEGER, used INTEGER, import_kind INTEGER, kind_code INTEGER,"
+                  " favourite INTEGER, import_kind INTEGER, kind_code INTEGER,"
                   " alive INTEGER, name TEXT, path TEXT UNIQUE, canonical_path TEXT,"
                   " relative_path TEXT)");
     QElapsedTimer timer;
     timer.start();
     sqlite3_stmt *insert = nullptr;
-    sqlite3_prepare_v2(database, "INSERT INTO media VALUES(?,?,?,?,?,?,?,?,?,?,?,?,?,?,?,?)", -1,
+    sqlite3_prepare_v2(database, "INSERT INTO media VALUES(?,?,?,?,?,?,?,?,?,?,?,?,?,?,?)", -1,
                        &insert, nullptr);
     run(database, "BEGIN");
     for (const BareRow &row : rows) {
@@ -170,11 +178,11 @@ double loadBare(const QString &path, int count)
     sqlite3_stmt *select = nullptr;
     sqlite3_prepare_v2(database,
                        "SELECT id, category, folder, place, size, created, modified, favourite,"
-                       " used, import_kind, kind_code, alive, name, path, canonical_path,"
+                       " import_kind, kind_code, alive, name, path, canonical_path,"
                        " relative_path FROM media",
                        -1, &select, nullptr);
-    constexpr int numbers = 12;
-    constexpr int columns = 16;
+    constexpr int numbers = 11;
+    constexpr int columns = 15;
     qint64 sum = 0;
     int rows = 0;
     while (sqlite3_step(select) == SQLITE_ROW) {

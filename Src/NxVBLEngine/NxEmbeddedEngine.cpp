@@ -89,8 +89,8 @@ public:
 
     const NxEmbeddedEngine::Options options;
     std::unique_ptr<NxEngineProject> project;
-    const NxEngineThumbManager::Current pictures =
-        std::make_shared<QPointer<NxPictureService>>();
+    bool isClosing = false;
+    const NxEngineThumbManager::Current pictures = std::make_shared<QPointer<NxPictureService>>();
 };
 
 NxEmbeddedEngine::NxEmbeddedEngine() : NxEmbeddedEngine(Options()) {}
@@ -123,11 +123,17 @@ NxResult<void> NxEmbeddedEngine::closeProject()
 {
     if (!d->project)
         return {};
+    if (d->isClosing || d->project->isChanging()) {
+        NX_LOG_ERROR("%s is being changed", qUtf8Printable(d->project->path()));
+        return NxError{QStringLiteral("%1 is being changed").arg(d->project->path())};
+    }
     if (d->project->isObserved()) {
         NX_LOG_ERROR("%s is still observed", qUtf8Printable(d->project->path()));
         return NxError{QStringLiteral("%1 is still in use").arg(d->project->path())};
     }
+    d->isClosing = true; // What ends with the project tells so, and may ask for its end again.
     const NxResult<void> closed = d->project->close();
+    d->isClosing = false;
     d->project.reset();
     return closed;
 }

@@ -9,10 +9,14 @@
 #include <NxVBLEngine/import/NxEngineImporter.h>
 #include <NxVBLEngine/objects/NxEngineCategory.h>
 #include <NxVBLEngine/objects/NxEngineFolder.h>
+#include <NxVBLEngine/objects/NxEngineTimelineEditor.h>
 #include <NxVBLEngine/objects/NxEngineUndoStack.h>
 #include <NxVBLEngine/objects/NxProjectMemory.h>
+#include <NxVBLEngine/objects/NxTimelineMemory.h>
 #include <NxVBLEngine/pictures/NxPictureService.h>
+#include <NxVBLEngine/reading/NxFileLength.h>
 #include <NxVBLEngine/reading/NxFootageReader.h>
+#include <NxVBLEngine/relink/NxRelinkSearch.h>
 
 #include <QCoreApplication>
 #include <QThread>
@@ -33,12 +37,8 @@ NxEngineProject::NxEngineProject(std::unique_ptr<NxProjectStore> store, Workers 
       m_disk(std::make_shared<NxDiskThread>()),
       m_presence(std::make_unique<NxPresenceKeeper>(m_memory.get(), m_disk))
 {
-    if (!workers)
-        return;
-    m_memory->setPictureFolder(workers->cacheFolder);
-    m_reader = std::make_unique<NxFootageReader>(m_memory.get(), std::move(*workers));
-    m_pictures = std::make_unique<NxPictureService>(m_memory.get(), m_reader.get(),
-                                                    NxPictureService::Limits());
+    if (workers)
+        attachReading(*workers);
 }
 
 NxResult<std::unique_ptr<NxEngineProject>> NxEngineProject::open(
@@ -82,6 +82,18 @@ void NxEngineProject::attachStore()
     });
 }
 
+void NxEngineProject::attachReading(const NxWorkerSettings &workers)
+{
+    m_memory->setPictureFolder(workers.cacheFolder);
+    m_reader = std::make_unique<NxFootageReader>(m_memory.get(), workers);
+    m_pictures = std::make_unique<NxPictureService>(m_memory.get(), m_reader.get(),
+                                                    NxPictureService::Limits());
+    m_length = std::make_unique<NxFileLength>(workers);
+    m_memory->setLengthReader(
+        [length = m_length.get()](const QString &path) { return length->read(path); });
+    m_relink = std::make_unique<NxRelinkSearch>(m_memory.get(), m_disk, workers);
+}
+
 void NxEngineProject::attachServices()
 {
     for (int category = 0; category < MediaCategoryCount; ++category) {
@@ -114,6 +126,11 @@ void NxEngineProject::attachServices()
 void NxEngineProject::stopServices()
 {
     NxFile::setAnswerer({});
+    m_memory->setLengthReader({});
+    m_length.reset();
+    if (m_relink)
+        m_relink->stopAll();
+    m_relink.reset();
     m_pictures.reset();
     m_reader.reset(); // What its workers have not answered yet is read another time.
     m_presence.reset();
@@ -152,6 +169,19 @@ bool NxEngineProject::isObserved() const
     return false;
 }
 
+bool NxEngineProject::isChanging() const
+{
+    const NxEngineUndoStack *history = m_memory->undoStack();
+    if (history->isInStep() || history->isReplaying())
+        return true;
+    for (int category = 0; category < MediaCategoryCount; ++category) {
+        const NxEngineCategory *owner = m_memory->category(category);
+        if (owner->itemObservers.isTelling() || owner->folderObservers.isTelling())
+            return true;
+    }
+    return false;
+}
+
 QString NxEngineProject::path() const
 {
     return m_memory->projectPath();
@@ -174,6 +204,26 @@ QString NxEngineProject::readOnlyReason() const
 INxFootageService *NxEngineProject::footageService()
 {
     return m_reader.get();
+}
+
+INxRelinkSearch *NxEngineProject::relinkSearch()
+{
+    return m_relink.get();
+}
+
+QList<NxTimelineUse> NxEngineProject::timelineUses(const QString &mediaId)
+{
+    return m_memory->timelines()->uses(mediaId);
+}
+
+QList<INxTimeline *> NxEngineProject::timelines()
+{
+    return m_memory->timelines()->timelines();
+}
+
+INxTimelineEditor *NxEngineProject::timelineEditor()
+{
+    return m_memory->timelines()->editor();
 }
 
 INxUndoStack *NxEngineProject::undoStack()

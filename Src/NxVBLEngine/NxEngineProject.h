@@ -14,10 +14,12 @@
 
 class NxDiskThread;
 class NxEngineImporter;
+class NxFileLength;
 class NxFootageReader;
 class NxPictureService;
 class NxPresenceKeeper;
 class NxProjectMemory;
+class NxRelinkSearch;
 
 /// Everything that belongs to one open project: its memory, its store, its importers and what
 /// watches its files.
@@ -43,6 +45,9 @@ public:
     [[nodiscard]] NxPictureService *pictureService() const { return m_pictures.get(); }
     /// True while somebody observes one of the managers.
     [[nodiscard]] bool isObserved() const;
+    /// True while observers are being told of a change, or an undo step is open: whoever calls then
+    /// stands in the middle of what is done to the project.
+    [[nodiscard]] bool isChanging() const;
     /// What could not be read of a damaged file; empty when all could.
     [[nodiscard]] QString damage() const { return m_damage; }
     /// Stops jobs, writes what waits and closes the file.
@@ -54,6 +59,10 @@ public:
     INxMediaLibrary *mediaLibrary() override { return this; }
     INxUndoStack *undoStack() override;
     INxFootageService *footageService() override;
+    QList<NxTimelineUse> timelineUses(const QString &mediaId) override;
+    QList<INxTimeline *> timelines() override;
+    INxTimelineEditor *timelineEditor() override;
+    INxRelinkSearch *relinkSearch() override;
     void requestCommit(std::function<void(const NxResult<void> &)> done) override;
     void saveCopy(const QString &path, std::function<void(const NxResult<void> &)> done) override;
     INxMediaManager *mediaManager(NXVBLMODEL::NxMediaCategoryType category) override;
@@ -63,6 +72,7 @@ private:
     [[nodiscard]] NxResult<void> load();
     void attachStore();
     void attachServices();
+    void attachReading(const NxWorkerSettings &workers);
     void stopServices();
     void releaseServices();
 
@@ -72,6 +82,8 @@ private:
     std::unique_ptr<NxPresenceKeeper> m_presence;
     std::unique_ptr<NxFootageReader> m_reader;
     std::unique_ptr<NxPictureService> m_pictures;
+    std::unique_ptr<NxFileLength> m_length;
+    std::unique_ptr<NxRelinkSearch> m_relink;
     std::vector<std::unique_ptr<NxEngineImporter>> m_importers;
     QString m_damage;
     QString m_writeFailure; // Why nothing is written any more.

@@ -4,12 +4,12 @@
 #include <NxMediaLibrary/NxMediaDataModel/NxMediaItemModel.h>
 #include <NxVBLEngine/NxEngineProject.h>
 #include <NxVBLEngine/objects/NxEngineFolder.h>
-#include <NxVBLEngine/objects/NxEngineItemManager.h>
 #include <NxVBLEngine/objects/NxEngineMedia.h>
 #include <NxVBLEngine/objects/NxProjectMemory.h>
 #include <NxVBLModel/INxFolderMediaManager.h>
 #include <NxVBLModel/INxGroupMedia.h>
 #include <NxVBLModel/INxMediaManager.h>
+#include <NxVBLModel/INxTimelineEditor.h>
 
 #include <Support/NxTestMain.h>
 
@@ -132,6 +132,14 @@ class tst_NxMediaItemModel_engine : public QObject
         {
             import(inner, {"b"});
             compare();
+        }
+        /// Shows a media that many times on a timeline of its own.
+        void use(INxAbstractMedia *media, int times)
+        {
+            INxTimelineEditor *editor = project.timelineEditor();
+            INxTimeline *timeline = editor->addTimeline(QStringLiteral("film"));
+            for (int i = 0; i < times; ++i)
+                QVERIFY(editor->addClip(timeline, media, {0, i, 1, 0}));
         }
         void filterBy(const char *keyword)
         {
@@ -262,7 +270,7 @@ private Q_SLOTS:
         const QList<INxAbstractMedia *> listed = p.listed();
         QVERIFY(p.items->renameMediaItem(listed[0], QStringLiteral("zz")));
         QVERIFY(p.items->setFavourite(listed[2], true));
-        QVERIFY(static_cast<NxEngineItemManager *>(p.items)->setUsedCount(listed[3], 3));
+        p.use(listed[3], 3);
         p.settle();
         QVERIFY(p.items->renameMediaItem(listed[4], QStringLiteral("0")));
         p.model.setSortBy(p.sort);

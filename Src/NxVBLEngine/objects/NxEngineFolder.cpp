@@ -172,6 +172,40 @@ INxAbstractMedia *NxEngineFolder::lastMedia(bool recursive) const
     return m_items.empty() ? nullptr : m_items.back();
 }
 
+int NxEngineFolder::listedPlace(const INxAbstractMedia *media, bool recursive) const
+{
+    const auto *item = dynamic_cast<const NxEngineItem *>(media);
+    if (!item || listsGuests() || !containsMedia(media, recursive))
+        return INxFolderMedia::listedPlace(media, recursive);
+    const NxEngineFolder *folder = item->folder();
+    const auto spot = std::lower_bound(
+        folder->m_items.begin(), folder->m_items.end(), item->place(),
+        [](const NxEngineItem *listed, qint64 place) { return listed->place() < place; });
+    int place = int(spot - folder->m_items.begin());
+    for (; folder != this; folder = folder->m_parent)
+        place += folder->m_parent->mediaBefore(folder);
+    return place;
+}
+
+int NxEngineFolder::mediaCount() const
+{
+    int count = int(m_items.size());
+    for (const NxEngineFolder *child : m_children)
+        count += child->listsGuests() ? 0 : child->mediaCount();
+    return count;
+}
+
+int NxEngineFolder::mediaBefore(const NxEngineFolder *child) const
+{
+    int count = int(m_items.size());
+    for (const NxEngineFolder *sibling : m_children) {
+        if (sibling == child)
+            break;
+        count += sibling->listsGuests() ? 0 : sibling->mediaCount();
+    }
+    return count;
+}
+
 int NxEngineFolder::itemCount(bool recursive) const
 {
     int count = int(m_items.size());

@@ -61,6 +61,7 @@ public:
 
     QList<INxAbstractMedia *> items(bool recursive, bool mediaOnly) const override;
     INxAbstractMedia *lastMedia(bool recursive) const override;
+    int listedPlace(const INxAbstractMedia *media, bool recursive) const override;
     bool containsMedia(const INxAbstractMedia *media, bool recursive) const override;
     INxAbstractMedia *findMedia(const QString &id, bool recursive) const override;
     INxAbstractMedia *findMediaByPath(const QString &path, bool recursive) const override;
@@ -81,6 +82,9 @@ public:
 private:
     void appendItems(QList<INxAbstractMedia *> *list, bool recursive, bool mediaOnly) const;
     int itemCount(bool recursive) const;
+    /// As many as items(true, true) lists.
+    [[nodiscard]] int mediaCount() const;
+    [[nodiscard]] int mediaBefore(const NxEngineFolder *child) const;
     void renumberChildren(int fromRow);
 
     NxEngineCategory *const m_category; // Not owned.

@@ -15,6 +15,8 @@
 #include <QDir>
 #include <QSet>
 
+#include <utility>
+
 using namespace NXVBLMODEL;
 
 namespace {
@@ -97,23 +99,42 @@ bool NxEngineItemManager::addMediaItems(INxFolderMedia *folder,
     }
     const NxUndoRedoCommander scope = step(memory(), "addMediaItems");
     bool allTaken = !items.isEmpty();
-    for (INxAbstractMedia *item : items)
-        allTaken = addOne(into, item) && allTaken;
+    QVector<NxMediaSeed> copies; // Of neighbours, which become media together.
+    for (INxAbstractMedia *item : items) {
+        NxEngineMedia *known = knownMedia(item);
+        if (!known) {
+            allTaken = appendCopy(&copies, item) && allTaken;
+            continue;
+        }
+        memory()->addNewMedia(into, std::exchange(copies, {}));
+        allTaken = addKnown(into, known) && allTaken;
+    }
+    memory()->addNewMedia(into, copies);
     return allTaken;
 }
 
-bool NxEngineItemManager::addOne(NxEngineFolder *folder, INxAbstractMedia *item)
+NxEngineMedia *NxEngineItemManager::knownMedia(INxAbstractMedia *item) const
 {
-    if (NxEngineMedia *standing = ownMedia(item))
-        return standing->folder() == folder || moveOne(folder, standing);
-    if (auto *removed = dynamic_cast<NxEngineMedia *>(item); removed && !removed->folder())
-        return removed->category() == m_category->categoryType() && revive(folder, removed);
-    return fileCopy(folder, item);
+    auto *media = dynamic_cast<NxEngineMedia *>(item);
+    const bool isRemoved = media && !media->folder();
+    return isRemoved ? media : ownMedia(item);
+}
+
+bool NxEngineItemManager::addKnown(NxEngineFolder *folder, NxEngineMedia *media)
+{
+    if (media->folder())
+        return media->folder() == folder || moveOne(folder, media);
+    return media->category() == m_category->categoryType() && revive(folder, media);
 }
 
 bool NxEngineItemManager::revive(NxEngineFolder *folder, NxEngineMedia *media)
 {
     // It comes back where it stood, and goes where it is wanted: both can be taken back.
+    if (!memory()->undoStack()->keeps(NxObjectKind::Media, media->id())) {
+        // A new change would forget the undone step that keeps it.
+        NX_LOG_INFO("%s cannot come back: its addition was undone", qUtf8Printable(media->name()));
+        return false;
+    }
     if (!m_category->folder(media->folderId())) {
         NX_LOG_INFO("%s cannot come back: its folder is gone", qUtf8Printable(media->name()));
         return false;
@@ -122,7 +143,7 @@ bool NxEngineItemManager::revive(NxEngineFolder *folder, NxEngineMedia *media)
     return moveOne(folder, media);
 }
 
-bool NxEngineItemManager::fileCopy(NxEngineFolder *folder, INxAbstractMedia *item)
+bool NxEngineItemManager::appendCopy(QVector<NxMediaSeed> *copies, INxAbstractMedia *item)
 {
     auto *source = dynamic_cast<INxAbstractMediaItem *>(item);
     if (!source || source->filePath().isEmpty())
@@ -132,7 +153,7 @@ bool NxEngineItemManager::fileCopy(NxEngineFolder *folder, INxAbstractMedia *ite
     seed.name = source->name();
     seed.size = source->sourceSize();
     seed.kindCode = source->isResource() ? mkcStockCopy : mkcNone;
-    memory()->addNewMedia(folder, {seed});
+    copies->append(seed);
     return true;
 }
 
@@ -233,21 +254,6 @@ bool NxEngineItemManager::setFavourite(INxAbstractMedia *item, bool favourite)
     return true;
 }
 
-bool NxEngineItemManager::setUsedCount(INxAbstractMedia *item, int uses)
-{
-    NxEngineMedia *media = ownMedia(item);
-    if (!media || uses < 0 || memory()->isReadOnly())
-        return false;
-    if (media->usedCount() == uses)
-        return true;
-    const NxUndoRedoCommander scope = step(memory(), "setUsedCount");
-    NxChange change = changeOf(NxChangeKind::MediaUsed, m_category->categoryType(), media->id());
-    change.before.number = media->usedCount();
-    change.after.number = uses;
-    memory()->perform(change);
-    return true;
-}
-
 bool NxEngineItemManager::relinkMedia(INxAbstractMedia *item, const QString &path)
 {
     NxEngineMedia *media = ownMedia(item);
@@ -265,14 +271,16 @@ bool NxEngineItemManager::relinkMedia(INxAbstractMedia *item, const QString &pat
     return true;
 }
 
+qint64 NxEngineItemManager::readDuration(const QString &path) const
+{
+    // A copy: the project may close, and take the reader along, while the file is read.
+    const NxProjectMemory::LengthReader read = memory()->lengthReader();
+    return read ? read(path) : INxMediaItemManager::readDuration(path);
+}
+
 void NxEngineItemManager::refresh(INxFolderMedia *folder)
 {
-    m_currentRoot = folder;
-    if (!folder)
-        return;
-    m_category->itemObservers.tell([folder](INxMediaItemEventObserver *observer) {
-        observer->onAllMediaChangedFinishEvent(folder);
-    });
+    m_currentRoot = folder; // No folder of a project comes from a service.
 }
 
 void NxEngineItemManager::resetResourceLoader(INxFolderMedia *folder)

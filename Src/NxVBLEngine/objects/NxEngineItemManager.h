@@ -15,6 +15,7 @@ class NxEngineFolder;
 class NxEngineItem;
 class NxEngineMedia;
 class NxProjectMemory;
+struct NxMediaSeed;
 struct NxChange;
 
 /// Carries out what the user does with the items of a category. Each call is one undo step.
@@ -25,9 +26,6 @@ public:
 
     explicit NxEngineItemManager(NxEngineCategory *category);
     ~NxEngineItemManager() override;
-
-    /// Notes how often timelines use a media. Undoable with whatever the timeline changed.
-    bool setUsedCount(INxAbstractMedia *item, int uses);
 
     NXVBLMODEL::NxMediaCategoryType categoryType() const override;
     bool registerObserver(INxMediaItemEventObserver *observer) override;
@@ -42,6 +40,7 @@ public:
     bool renameMediaItem(INxAbstractMedia *item, const QString &name) override;
     bool setFavourite(INxAbstractMedia *item, bool favourite) override;
     bool relinkMedia(INxAbstractMedia *item, const QString &path) override;
+    qint64 readDuration(const QString &path) const override;
     INxFolderMedia *currentRoot() const override { return m_currentRoot; }
     void refresh(INxFolderMedia *folder) override;
     void resetResourceLoader(INxFolderMedia *folder) override;
@@ -52,9 +51,12 @@ private:
     [[nodiscard]] NxEngineItem *own(INxAbstractMedia *item) const;
     [[nodiscard]] NxEngineMedia *ownMedia(INxAbstractMedia *item) const;
     [[nodiscard]] NxEngineFolder *ownFolder(INxFolderMedia *folder) const;
-    bool addOne(NxEngineFolder *folder, INxAbstractMedia *item);
+    /// The media if it is one of this project: one that stands here, or a removed one.
+    [[nodiscard]] NxEngineMedia *knownMedia(INxAbstractMedia *item) const;
+    bool addKnown(NxEngineFolder *folder, NxEngineMedia *media);
     bool revive(NxEngineFolder *folder, NxEngineMedia *media);
-    bool fileCopy(NxEngineFolder *folder, INxAbstractMedia *item);
+    /// What a media of another kind becomes here. False for what has no file.
+    static bool appendCopy(QVector<NxMediaSeed> *copies, INxAbstractMedia *item);
     bool moveOne(NxEngineFolder *to, NxEngineMedia *media);
 
     NxEngineCategory *const m_category; // Not owned.

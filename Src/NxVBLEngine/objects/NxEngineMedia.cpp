@@ -56,7 +56,6 @@ NxEngineMedia::NxEngineMedia(const NxMediaRecord &record)
       m_modified(record.modified),
       m_favourite(record.favourite),
       m_folderId(record.folder),
-      m_used(record.used),
       m_kindCode(quint8(record.kindCode)),
       m_category(quint8(record.category)),
       m_importKind(quint8(record.importKind))
@@ -95,7 +94,6 @@ NxMediaRecord NxEngineMedia::record() const
     record.created = m_created;
     record.modified = m_modified;
     record.favourite = m_favourite;
-    record.used = m_used;
     record.importKind = m_importKind;
     record.kindCode = m_kindCode;
     record.alive = folder() != nullptr;

@@ -112,7 +112,7 @@ private:
     qint64 m_modified;
     qint64 m_favourite;
     int m_folderId;
-    int m_used;
+    int m_used = 0; // By the timelines.
     quint16 m_subKind = 0;
     quint8 m_type = 0;
     quint8 m_kindCode = 0;

@@ -24,6 +24,7 @@ public:
     [[nodiscard]] QString userName() const { return m_userName; }
     void setFavouriteSince(qint64 time) { m_favourite = time; }
     [[nodiscard]] qint64 favouriteSince() const { return m_favourite; }
+    void setUsed(int uses) { m_used = uses; }
 
     NXVBLMODEL::NxMediaType mediaType() const override { return m_entry.type; }
     int subKind() const override { return m_entry.subKind; }
@@ -36,6 +37,7 @@ public:
 
     bool isNeedDownload() const override { return m_entry.needsDownload; }
     bool hasDuration() const override;
+    int usedCount() const override { return m_used; }
     bool isFavourite() const override { return m_favourite != NxNoTime; }
     QDateTime favouriteTime() const override;
     QString categoryName() const override { return m_entry.categoryText; }
@@ -45,4 +47,5 @@ private:
     const NxResourceEntry m_entry;
     QString m_userName;
     qint64 m_favourite = NxNoTime;
+    int m_used = 0; // By the timelines.
 };

@@ -7,57 +7,61 @@
 #include <QSet>
 
 #include <algorithm>
+#include <array>
 
 namespace {
 
-bool concernsFolders(const NxChange &change)
+// The ids of what steps bring or take, by NxObjectKind.
+class Mentioned
 {
-    return change.what == NxChangeKind::FolderAdd || change.what == NxChangeKind::FolderRemove;
-}
-
-bool concernsMedia(const NxChange &change)
-{
-    return change.what == NxChangeKind::MediaAdd || change.what == NxChangeKind::MediaRemove;
-}
-
-// What steps bring or take, each id once.
-struct Mentioned
-{
-    QSet<qint64> media;
-    QSet<qint64> folders;
-
+public:
     void add(const NxUndoRecord &step)
     {
         for (const NxChange &change : step.changes) {
-            QSet<qint64> *ids = concernsMedia(change)     ? &media
-                                : concernsFolders(change) ? &folders
-                                                          : nullptr;
-            for (const qint64 id : change.ids) {
-                if (ids)
-                    ids->insert(id);
-            }
+            if (!isAddOrRemoval(change.what))
+                continue;
+            QSet<qint64> &ids = (*this)[objectOf(change.what)];
+            for (const qint64 id : change.ids)
+                ids.insert(id);
         }
     }
 
     void subtract(const NxUndoRecord &step)
     {
         for (const NxChange &change : step.changes) {
-            QSet<qint64> *ids = concernsMedia(change)     ? &media
-                                : concernsFolders(change) ? &folders
-                                                          : nullptr;
-            if (!ids || ids->isEmpty())
+            if (!isAddOrRemoval(change.what))
+                continue;
+            QSet<qint64> &ids = (*this)[objectOf(change.what)];
+            if (ids.isEmpty())
                 continue;
             for (const qint64 id : change.ids)
-                ids->remove(id);
+                ids.remove(id);
         }
     }
-};
 
-QVector<qint64> sorted(QVector<qint64> ids)
-{
-    std::sort(ids.begin(), ids.end());
-    return ids;
-}
+    /// Keeps what is removed from the project now.
+    void reduceToRemoved(const NxProjectMemory *memory)
+    {
+        for (int kind = 0; kind < NxObjectKindCount; ++kind) {
+            QSet<qint64> &ids = m_ids[size_t(kind)];
+            const QVector<qint64> removed =
+                memory->removedAmong(NxObjectKind(kind), ids.values().toVector());
+            ids = QSet<qint64>(removed.begin(), removed.end());
+        }
+    }
+
+    QVector<qint64> ascending(NxObjectKind kind) const
+    {
+        QVector<qint64> ids = m_ids[size_t(kind)].values().toVector();
+        std::sort(ids.begin(), ids.end());
+        return ids;
+    }
+
+private:
+    QSet<qint64> &operator[](NxObjectKind kind) { return m_ids[size_t(kind)]; }
+
+    std::array<QSet<qint64>, NxObjectKindCount> m_ids;
+};
 
 } // namespace
 
@@ -128,6 +132,16 @@ bool NxEngineUndoStack::isDone(qint64 serial) const
                        [serial](const NxUndoRecord &step) { return step.serial == serial; });
 }
 
+bool NxEngineUndoStack::keeps(NxObjectKind kind, qint64 id) const
+{
+    return std::any_of(m_steps.begin(), m_steps.begin() + m_done, [=](const NxUndoRecord &step) {
+        return std::any_of(step.changes.begin(), step.changes.end(), [=](const NxChange &change) {
+            return isAddOrRemoval(change.what) && objectOf(change.what) == kind
+                   && change.ids.contains(id);
+        });
+    });
+}
+
 void NxEngineUndoStack::dropUndone()
 {
     if (m_done < int(m_steps.size()))
@@ -147,24 +161,22 @@ void NxEngineUndoStack::drop(std::deque<NxUndoRecord>::iterator first,
                              std::deque<NxUndoRecord>::iterator last)
 {
     NxStoreEntry::StepDrop dropped;
-    Mentioned mentioned;
+    Mentioned dead;
     for (auto step = first; step != last; ++step) {
         dropped.serials.append(step->serial);
-        mentioned.add(*step);
+        dead.add(*step);
     }
     m_steps.erase(first, last);
     // What is removed now and no remaining step can bring back is gone for good.
-    Mentioned dead;
-    for (const qint64 id : m_memory->removedAmong(mentioned.media.values().toVector()))
-        dead.media.insert(id);
-    for (const qint64 id : m_memory->removedFoldersAmong(mentioned.folders.values().toVector()))
-        dead.folders.insert(id);
+    dead.reduceToRemoved(m_memory);
     for (const NxUndoRecord &step : m_steps)
         dead.subtract(step);
 
-    dropped.deadMedia = sorted(dead.media.values().toVector());
-    dropped.deadFolders = sorted(dead.folders.values().toVector());
-    m_memory->forget(dropped.deadMedia, dropped.deadFolders);
+    dropped.deadMedia = dead.ascending(NxObjectKind::Media);
+    dropped.deadFolders = dead.ascending(NxObjectKind::Folder);
+    dropped.deadTimelines = dead.ascending(NxObjectKind::Timeline);
+    dropped.deadClips = dead.ascending(NxObjectKind::Clip);
+    m_memory->forget(dropped);
     m_memory->enqueue(std::move(dropped));
 }
 
@@ -175,11 +187,14 @@ void NxEngineUndoStack::storePosition()
 
 bool NxEngineUndoStack::undo()
 {
-    if (isInStep() || !canUndo())
+    if (isInStep() || isReplaying() || !canUndo())
         return false;
     const QVector<NxChange> changes = m_steps[size_t(--m_done)].changes;
-    for (auto change = changes.crbegin(); change != changes.crend(); ++change)
-        m_memory->replay(inverted(*change));
+    {
+        const ReplayScope replaying(this);
+        for (auto change = changes.crbegin(); change != changes.crend(); ++change)
+            m_memory->replay(inverted(*change));
+    }
     storePosition();
     m_memory->flush();
     Q_EMIT changed();
@@ -188,11 +203,14 @@ bool NxEngineUndoStack::undo()
 
 bool NxEngineUndoStack::redo()
 {
-    if (isInStep() || !canRedo())
+    if (isInStep() || isReplaying() || !canRedo())
         return false;
     const QVector<NxChange> changes = m_steps[size_t(m_done++)].changes;
-    for (const NxChange &change : changes)
-        m_memory->replay(change);
+    {
+        const ReplayScope replaying(this);
+        for (const NxChange &change : changes)
+            m_memory->replay(change);
+    }
     storePosition();
     m_memory->flush();
     Q_EMIT changed();

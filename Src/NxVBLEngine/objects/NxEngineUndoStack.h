@@ -33,6 +33,8 @@ public:
     void continueStep(qint64 serial);
     /// The serial of the step that was closed last, or is open; 0 when nothing was changed.
     [[nodiscard]] qint64 lastSerial() const { return m_lastSerial; }
+    /// Whether a step that is done adds or removes this object.
+    [[nodiscard]] bool keeps(NxObjectKind kind, qint64 id) const;
     /// False once the step was taken back or forgotten.
     [[nodiscard]] bool isDone(qint64 serial) const;
 

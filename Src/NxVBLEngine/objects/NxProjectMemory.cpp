@@ -9,6 +9,7 @@
 #include <NxVBLEngine/objects/NxEngineUndoStack.h>
 #include <NxVBLEngine/objects/NxMediaIdIndex.h>
 #include <NxVBLEngine/objects/NxSiblingPlaces.h>
+#include <NxVBLEngine/objects/NxTimelineMemory.h>
 
 #include <QDir>
 #include <QFileInfo>
@@ -43,6 +44,7 @@ NxProjectMemory::NxProjectMemory(const QString &projectPath)
       m_projectFolder(projectPath.isEmpty() ? QString() : QFileInfo(projectPath).absolutePath()),
       m_mediaPool({MediaPerBlock, sizeof(NxEngineMedia)}),
       m_mediaById(std::make_unique<NxMediaIdIndex>()),
+      m_timelines(std::make_unique<NxTimelineMemory>(this)),
       m_undoStack(std::make_unique<NxEngineUndoStack>(this))
 {
     for (int category = 0; category < MediaCategoryCount; ++category) {
@@ -198,10 +200,7 @@ QVector<NxEngineMedia *> NxProjectMemory::addNewMedia(NxEngineFolder *folder,
         stored.media.append(record);
     }
     const NxUndoRedoCommander scope = ownStep("addNewMedia");
-    const NxChange change = addOf(folder->category()->categoryType(), ids);
-    m_undoStack->record(change);
-    enqueue(std::move(stored));
-    apply(change);
+    introduce(addOf(folder->category()->categoryType(), ids), std::move(stored));
     return added;
 }
 
@@ -219,12 +218,11 @@ NxEngineFolder *NxProjectMemory::addNewFolder(NxEngineFolder *parent, const QStr
     change.what = NxChangeKind::FolderAdd;
     change.category = record.category;
     change.ids = {record.id};
-    const NxUndoRedoCommander scope = ownStep("addNewFolder");
-    m_undoStack->record(change);
-    enqueue(NxStoreEntry::NewFolder{record});
+    const NxStoreEntry::NewFolder stored{record};
     record.alive = false; // Until the change brings it to life.
     m_removedFolders.insert(record.id, record);
-    apply(change);
+    const NxUndoRedoCommander scope = ownStep("addNewFolder");
+    introduce(change, stored);
     return parent->category()->folder(record.id);
 }
 
@@ -252,6 +250,17 @@ void NxProjectMemory::setMovedPath(NxEngineMedia *media, const QString &path)
     if (!m_readOnly)
         enqueue(NxStoreEntry::Facts{{storedRecord(media)}});
     announce(media);
+}
+
+void NxProjectMemory::setUses(qint64 mediaId, int uses)
+{
+    if (NxEngineMedia *used = media(mediaId)) {
+        used->setUsed(uses);
+        announce(used);
+    } else if (NxEngineResource *known = resource(mediaId)) {
+        known->setUsed(uses);
+        announce(known);
+    }
 }
 
 void NxProjectMemory::setPresence(NxEngineMedia *media, NxPresence presence)
@@ -284,10 +293,27 @@ void NxProjectMemory::flush()
 
 // Forgetting
 
-QVector<qint64> NxProjectMemory::removedAmong(const QVector<qint64> &mediaIds) const
+QVector<qint64> NxProjectMemory::removedAmong(NxObjectKind kind, const QVector<qint64> &ids) const
+{
+    switch (kind) {
+    case NxObjectKind::Folder:
+        return removedFolders(ids);
+    case NxObjectKind::Media:
+        return removedMedia(ids);
+    case NxObjectKind::Timeline:
+        return m_timelines->removedTimelines(ids);
+    case NxObjectKind::Clip:
+        return m_timelines->removedClips(ids);
+    case NxObjectKind::Resource:
+        break;
+    }
+    return {};
+}
+
+QVector<qint64> NxProjectMemory::removedMedia(const QVector<qint64> &ids) const
 {
     QVector<qint64> removed;
-    for (const qint64 id : mediaIds) {
+    for (const qint64 id : ids) {
         const NxEngineMedia *known = media(id);
         if (known && !known->folder())
             removed.append(id);
@@ -295,24 +321,25 @@ QVector<qint64> NxProjectMemory::removedAmong(const QVector<qint64> &mediaIds) c
     return removed;
 }
 
-QVector<qint64> NxProjectMemory::removedFoldersAmong(const QVector<qint64> &folderIds) const
+QVector<qint64> NxProjectMemory::removedFolders(const QVector<qint64> &ids) const
 {
     QVector<qint64> removed;
-    for (const qint64 id : folderIds) {
+    for (const qint64 id : ids) {
         if (m_removedFolders.contains(int(id)))
             removed.append(id);
     }
     return removed;
 }
 
-void NxProjectMemory::forget(const QVector<qint64> &deadMedia, const QVector<qint64> &deadFolders)
+void NxProjectMemory::forget(const NxStoreEntry::StepDrop &dead)
 {
-    for (const qint64 id : deadMedia) {
+    for (const qint64 id : dead.deadMedia) {
         m_deadMedia.push_back(media(id));
         m_mediaById->remove(id);
     }
-    for (const qint64 id : deadFolders)
+    for (const qint64 id : dead.deadFolders)
         m_removedFolders.remove(int(id));
+    m_timelines->forget(dead.deadTimelines, dead.deadClips);
     scheduleBurial();
 }
 
@@ -330,4 +357,5 @@ void NxProjectMemory::bury()
     for (NxEngineMedia *dead : std::exchange(m_deadMedia, {}))
         destroyMedia(dead);
     m_deadFolders.clear();
+    m_timelines->bury();
 }

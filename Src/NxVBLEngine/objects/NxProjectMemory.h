@@ -9,6 +9,7 @@
 
 #include <QHash>
 #include <QObject>
+#include <QPair>
 #include <QString>
 #include <QVector>
 
@@ -20,9 +21,11 @@
 
 class NxEngineCategory;
 class NxEngineFolder;
+class NxEngineItem;
 class NxEngineResource;
 class NxEngineUndoStack;
 class NxMediaIdIndex;
+class NxTimelineMemory;
 class NxUndoRedoCommander;
 
 /// What is known of a file before it becomes a media.
@@ -49,6 +52,8 @@ class NXVBLENGINE_TEST_EXPORT NxProjectMemory : public QObject
 public:
     /// Where batches go; called with every finished batch.
     using Writer = std::function<void(NxStoreBatch)>;
+    /// Answers INxMediaItemManager::readDuration().
+    using LengthReader = std::function<qint64(const QString &path)>;
 
     /// An empty project; `projectPath` may be empty for one that lives in memory alone.
     explicit NxProjectMemory(const QString &projectPath);
@@ -66,10 +71,14 @@ public:
     /// Where covers and film strips lie; empty when none are made.
     void setPictureFolder(const QString &folder) { m_pictureFolder = folder; }
     [[nodiscard]] const QString &pictureFolder() const { return m_pictureFolder; }
+    /// What reads the lengths of files; empty when nothing does.
+    void setLengthReader(const LengthReader &reader) { m_lengthReader = reader; }
+    [[nodiscard]] const LengthReader &lengthReader() const { return m_lengthReader; }
 
     /// Null for a category that is none.
     [[nodiscard]] NxEngineCategory *category(int category) const;
     [[nodiscard]] NxEngineUndoStack *undoStack() const { return m_undoStack.get(); }
+    [[nodiscard]] NxTimelineMemory *timelines() const { return m_timelines.get(); }
     /// Null when unknown. Removed media are found, too.
     [[nodiscard]] NxEngineMedia *media(qint64 id) const;
     [[nodiscard]] NxEngineResource *resource(qint64 id) const;
@@ -88,6 +97,8 @@ public:
     NxEngineFolder *addNewFolder(NxEngineFolder *parent, const QString &name);
     /// Applies a change, announces it, and writes it down. Refused when read-only.
     void perform(const NxChange &change);
+    /// A change that brings to life what was just made: `rows` are stored in its place.
+    void introduce(const NxChange &change, NxStoreEntry::Any rows);
     /// The same for undo and redo: applied, announced and stored, but in no step.
     void replay(const NxChange &change);
 
@@ -99,23 +110,25 @@ public:
     void setFootage(NxEngineMedia *media, const NxFootageRecord &record);
     /// The same file under another path, because project and footage moved together.
     void setMovedPath(NxEngineMedia *media, const QString &path);
+    /// How many living clips show a media or resource; announced, not stored.
+    void setUses(qint64 mediaId, int uses);
     /// What the disk thread saw; announced when it differs, not stored.
     void setPresence(NxEngineMedia *media, NxPresence presence);
 
     /// A place behind everything that was placed before.
     [[nodiscard]] qint64 takePlace() { return m_counters.nextPlace++; }
     [[nodiscard]] qint64 takeStepSerial() { return m_counters.nextStepSerial++; }
+    [[nodiscard]] qint64 takeTimelineId() { return m_counters.nextTimelineId++; }
+    [[nodiscard]] qint64 takeClipId() { return m_counters.nextClipId++; }
     [[nodiscard]] const NxStoreEntry::Counters &counters() const { return m_counters; }
     /// Adds to the batch that is being collected.
     void enqueue(NxStoreEntry::Any entry);
     /// Hands the collected batch to the writer.
     void flush();
     /// Forgets removed objects for good; they die with the event loop's next turn.
-    void forget(const QVector<qint64> &deadMedia, const QVector<qint64> &deadFolders);
-    /// Of these ids, those of media that are removed.
-    [[nodiscard]] QVector<qint64> removedAmong(const QVector<qint64> &mediaIds) const;
-    /// Of these ids, those of folders that are removed.
-    [[nodiscard]] QVector<qint64> removedFoldersAmong(const QVector<qint64> &folderIds) const;
+    void forget(const NxStoreEntry::StepDrop &dead);
+    /// Of these ids, those of objects that are removed. Resources never are.
+    [[nodiscard]] QVector<qint64> removedAmong(NxObjectKind kind, const QVector<qint64> &ids) const;
 
     /// Checks every cross reference; the first broken one in words, empty when all is well.
     [[nodiscard]] QString brokenInvariant() const;
@@ -131,7 +144,7 @@ private:
         NxChangeKind what;
         Handler apply;
     };
-    static const std::array<HandlerEntry, 13> s_handlers;
+    static const std::array<HandlerEntry, 18> s_handlers;
 
     void apply(const NxChange &change);
     void applyFolderAdd(const NxChange &change);
@@ -146,9 +159,9 @@ private:
     void takeMedia(NxEngineMedia *media);
     void applyMediaFavourite(const NxChange &change);
     void applyMediaRelink(const NxChange &change);
-    void applyMediaUsed(const NxChange &change);
     void applyResourceRename(const NxChange &change);
     void applyResourceFavourite(const NxChange &change);
+    void applyToTimelines(const NxChange &change);
 
     /// A step for a change that nobody opened one for; inside one it joins.
     [[nodiscard]] NxUndoRedoCommander ownStep(const char *function);
@@ -157,7 +170,9 @@ private:
     void loadFolders(const std::vector<NxFolderRecord> &folders);
     void loadMedia(std::vector<NxMediaRecord> media);
     void loadFootage(NxProjectContents *contents);
-    void forgetFootage(NxEngineMedia *media);
+    /// What is known of a file when a media goes over to another one, and when it comes back.
+    void setFootageAside(NxEngineMedia *media);
+    void takeFootageBack(NxEngineMedia *media);
     void loadResources(const std::vector<NxResourceRecord> &resources);
     void indexPath(NxEngineMedia *media);
     void unindexPath(NxEngineMedia *media);
@@ -165,7 +180,9 @@ private:
     [[nodiscard]] NxEngineFolder *homeOf(const NxMediaRecord &record) const;
     [[nodiscard]] QString relativePath(const QString &path) const;
     [[nodiscard]] NxMediaRecord storedRecord(const NxEngineMedia *media) const;
-    void announce(NxEngineMedia *media);
+    void announce(NxEngineItem *item);
+    [[nodiscard]] QVector<qint64> removedMedia(const QVector<qint64> &ids) const;
+    [[nodiscard]] QVector<qint64> removedFolders(const QVector<qint64> &ids) const;
     void scheduleBurial();
     void bury();
 
@@ -174,10 +191,13 @@ private:
     QString m_pictureFolder;
     bool m_readOnly = false;
     Writer m_writer;
+    LengthReader m_lengthReader;
     NxStoreBatch m_batch;
     NxStoreEntry::Counters m_counters;
 
     NxStreamDescriptions m_descriptions;
+    /// Of files that media were relinked from, for an undo. Lasts as long as the memory.
+    QHash<QPair<qint64, QString>, NxFootageRecord> m_footageAside;
     std::pmr::unsynchronized_pool_resource m_mediaPool; // Media lie in blocks, in load order.
     std::unique_ptr<NxMediaIdIndex> m_mediaById; // Removed ones included.
     QMultiHash<uint, NxEngineMedia *> m_mediaByPathHash; // Living ones, by both their paths.
@@ -185,6 +205,7 @@ private:
     QHash<int, NxFolderRecord> m_removedFolders;
     qint64 m_livingMedia = 0;
     std::array<std::unique_ptr<NxEngineCategory>, NXVBLMODEL::MediaCategoryCount> m_categories;
+    std::unique_ptr<NxTimelineMemory> m_timelines;
     std::unique_ptr<NxEngineUndoStack> m_undoStack;
 
     QHash<qint64, QString> m_relativePaths; // Until they are handed out.

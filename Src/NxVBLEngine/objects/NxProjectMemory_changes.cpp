@@ -7,6 +7,7 @@
 #include <NxVBLEngine/objects/NxEngineFolder.h>
 #include <NxVBLEngine/objects/NxEngineResource.h>
 #include <NxVBLEngine/objects/NxEngineUndoStack.h>
+#include <NxVBLEngine/objects/NxTimelineMemory.h>
 
 using namespace NXVBLMODEL;
 
@@ -16,7 +17,7 @@ NxUndoRedoCommander NxProjectMemory::ownStep(const char *function)
             QLatin1String(function)};
 }
 
-const std::array<NxProjectMemory::HandlerEntry, 13> NxProjectMemory::s_handlers = {{
+const std::array<NxProjectMemory::HandlerEntry, 18> NxProjectMemory::s_handlers = {{
     {NxChangeKind::FolderAdd, &NxProjectMemory::applyFolderAdd},
     {NxChangeKind::FolderRemove, &NxProjectMemory::applyFolderRemove},
     {NxChangeKind::FolderRename, &NxProjectMemory::applyFolderRename},
@@ -27,9 +28,14 @@ const std::array<NxProjectMemory::HandlerEntry, 13> NxProjectMemory::s_handlers 
     {NxChangeKind::MediaMove, &NxProjectMemory::applyMediaMove},
     {NxChangeKind::MediaFavourite, &NxProjectMemory::applyMediaFavourite},
     {NxChangeKind::MediaRelink, &NxProjectMemory::applyMediaRelink},
-    {NxChangeKind::MediaUsed, &NxProjectMemory::applyMediaUsed},
     {NxChangeKind::ResourceRename, &NxProjectMemory::applyResourceRename},
     {NxChangeKind::ResourceFavourite, &NxProjectMemory::applyResourceFavourite},
+    {NxChangeKind::TimelineAdd, &NxProjectMemory::applyToTimelines},
+    {NxChangeKind::TimelineRemove, &NxProjectMemory::applyToTimelines},
+    {NxChangeKind::TimelineRename, &NxProjectMemory::applyToTimelines},
+    {NxChangeKind::ClipAdd, &NxProjectMemory::applyToTimelines},
+    {NxChangeKind::ClipRemove, &NxProjectMemory::applyToTimelines},
+    {NxChangeKind::ClipMove, &NxProjectMemory::applyToTimelines},
 }};
 
 void NxProjectMemory::perform(const NxChange &change)
@@ -40,6 +46,14 @@ void NxProjectMemory::perform(const NxChange &change)
     m_undoStack->record(
         change); // First: it drops undone steps while what they hold is theirs alone.
     replay(change);
+}
+
+void NxProjectMemory::introduce(const NxChange &change, NxStoreEntry::Any rows)
+{
+    const NxUndoRedoCommander scope = ownStep("introduce");
+    m_undoStack->record(change);
+    enqueue(std::move(rows));
+    apply(change);
 }
 
 void NxProjectMemory::replay(const NxChange &change)
@@ -214,13 +228,12 @@ void NxProjectMemory::applyMediaMove(const NxChange &change)
     });
 }
 
-void NxProjectMemory::announce(NxEngineMedia *media)
+void NxProjectMemory::announce(NxEngineItem *item)
 {
-    if (!media->folder())
+    if (!item->folder())
         return;
-    media->folder()->category()->itemObservers.tell([media](INxMediaItemEventObserver *observer) {
-        observer->onMediaStateChangedEvent(media);
-    });
+    item->folder()->category()->itemObservers.tell(
+        [item](INxMediaItemEventObserver *observer) { observer->onMediaStateChangedEvent(item); });
 }
 
 void NxProjectMemory::applyMediaFavourite(const NxChange &change)
@@ -234,18 +247,12 @@ void NxProjectMemory::applyMediaRelink(const NxChange &change)
 {
     NxEngineMedia *relinked = media(change.ids.first());
     unindexPath(relinked);
-    forgetFootage(relinked);
+    setFootageAside(relinked);
     relinked->setPaths(change.after.text, change.after.secondText);
     indexPath(relinked);
     enqueue(NxStoreEntry::Facts{{storedRecord(relinked)}});
     announce(relinked);
-}
-
-void NxProjectMemory::applyMediaUsed(const NxChange &change)
-{
-    NxEngineMedia *used = media(change.ids.first());
-    used->setUsed(int(change.after.number));
-    announce(used);
+    takeFootageBack(relinked);
 }
 
 void NxProjectMemory::applyResourceRename(const NxChange &change)
@@ -288,4 +295,9 @@ void NxProjectMemory::applyResourceFavourite(const NxChange &change)
     observers.tell([marked](INxMediaItemEventObserver *observer) {
         observer->onMediaStateChangedEvent(marked);
     });
+}
+
+void NxProjectMemory::applyToTimelines(const NxChange &change)
+{
+    m_timelines->apply(change);
 }

@@ -22,14 +22,24 @@ void NxProjectMemory::setFootage(NxEngineMedia *media, const NxFootageRecord &re
         announce(media);
 }
 
-void NxProjectMemory::forgetFootage(NxEngineMedia *media)
+void NxProjectMemory::setFootageAside(NxEngineMedia *media)
 {
     if (media->footageRow().isBlank())
         return;
+    m_footageAside.insert({media->id(), media->sourcePath()}, media->footage());
     NxFootageRow blank;
     blank.media = media->id();
     media->setFootage(blank, nullptr);
     enqueue(NxStoreEntry::Footage{{media->footage()}});
+}
+
+void NxProjectMemory::takeFootageBack(NxEngineMedia *media)
+{
+    const auto aside = m_footageAside.constFind({media->id(), media->sourcePath()});
+    if (aside == m_footageAside.constEnd())
+        return;
+    const NxFootageRecord record = *aside;
+    setFootage(media, record); // A file that changed meanwhile is read again, as any other.
 }
 
 void NxProjectMemory::loadFootage(NxProjectContents *contents)

@@ -5,6 +5,7 @@
 #include <NxVBLEngine/objects/NxEngineUndoStack.h>
 #include <NxVBLEngine/objects/NxMediaIdIndex.h>
 #include <NxVBLEngine/objects/NxProjectMemory.h>
+#include <NxVBLEngine/objects/NxTimelineMemory.h>
 
 namespace {
 
@@ -63,6 +64,8 @@ QString NxProjectMemory::brokenInvariant() const
             indexed += one->canonicalPath() == one->sourcePath() ? 1 : 2;
         if (one->id() >= m_counters.nextMediaId || one->place() >= m_counters.nextPlace)
             return QStringLiteral("media %1 is ahead of the project's counters").arg(one->id());
+        if (one->usedCount() != m_timelines->useCount(one->id()))
+            return QStringLiteral("media %1 miscounts its uses").arg(one->id());
     }
     if (indexed != m_mediaByPathHash.size())
         return QStringLiteral("the index of paths holds what does not live");
@@ -70,5 +73,5 @@ QString NxProjectMemory::brokenInvariant() const
         return QStringLiteral("%1 media live, %2 are counted").arg(living).arg(m_livingMedia);
     if (m_undoStack->index() < 0 || m_undoStack->index() > m_undoStack->count())
         return QStringLiteral("the history stands outside itself");
-    return {};
+    return m_timelines->brokenInvariant();
 }

@@ -9,6 +9,7 @@
 #include <NxVBLEngine/objects/NxEngineUndoStack.h>
 #include <NxVBLEngine/objects/NxMediaIdIndex.h>
 #include <NxVBLEngine/objects/NxSiblingPlaces.h>
+#include <NxVBLEngine/objects/NxTimelineMemory.h>
 
 #include <QDir>
 #include <QSet>
@@ -49,6 +50,7 @@ void NxProjectMemory::load(NxProjectContents contents)
     loadResources(contents.resources);
     loadMedia(std::move(contents.media));
     loadFootage(&contents);
+    m_timelines->load(std::move(contents.timelines), std::move(contents.clips));
     m_undoStack->load(std::move(contents.undoSteps), contents.undoDone);
 }
 

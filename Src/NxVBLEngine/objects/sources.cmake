@@ -4,6 +4,11 @@ list(APPEND NXVBLENGINE_SOURCES
     NxEmbeddedEngine.cpp
     objects/NxEngineCategory.cpp
     objects/NxEngineCategory.h
+    objects/NxEngineClip.cpp
+    objects/NxEngineClip.h
+    objects/NxEngineClipOf.h
+    objects/NxEngineCompositeTimeline.cpp
+    objects/NxEngineCompositeTimeline.h
     objects/NxEngineFolder.cpp
     objects/NxEngineFolder.h
     objects/NxEngineFolderManager.cpp
@@ -20,8 +25,18 @@ list(APPEND NXVBLENGINE_SOURCES
     NxEngineProject.h
     objects/NxEngineResource.cpp
     objects/NxEngineResource.h
+    objects/NxEngineSplitScreenClip.cpp
+    objects/NxEngineSplitScreenClip.h
+    objects/NxEngineTimeline.cpp
+    objects/NxEngineTimeline.h
+    objects/NxEngineTimelineEditor.cpp
+    objects/NxEngineTimelineEditor.h
+    objects/NxEngineTimelineEditor_lives.cpp
+    objects/NxEngineTimelineOf.h
     objects/NxEngineUndoStack.cpp
     objects/NxEngineUndoStack.h
+    objects/NxClipNode.cpp
+    objects/NxClipNode.h
     objects/NxMediaIdIndex.cpp
     objects/NxMediaIdIndex.h
     objects/NxProjectMemory.cpp
@@ -37,4 +52,10 @@ list(APPEND NXVBLENGINE_SOURCES
     objects/NxStreamDescription.cpp
     objects/NxStreamDescription.h
     objects/NxStreamDescriptions.cpp
-    objects/NxStreamDescriptions.h)
+    objects/NxStreamDescriptions.h
+    objects/NxTimelineMemory.cpp
+    objects/NxTimelineMemory.h
+    objects/NxTimelineMemory_invariants.cpp
+    objects/NxTimelineMemory_load.cpp
+    objects/NxTimelineNode.cpp
+    objects/NxTimelineNode.h)

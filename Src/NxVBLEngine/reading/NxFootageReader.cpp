@@ -3,19 +3,15 @@
 #include <NxVBLEngine/reading/NxFootageReader.h>
 
 #include <NxVBLEngine/objects/NxProjectMemory.h>
+#include <NxVBLEngine/reading/NxReadRequests.h>
 #include <NxVBLEngine/reading/NxReadingThread.h>
-#include <NxVBLModel/NxMediaFileTypes.h>
 #include <NxWorkerProtocol/NxPictureFile.h>
 
-#include <QFile>
-#include <QFileInfo>
 #include <QPointer>
 
 #include <algorithm>
 #include <array>
 #include <utility>
-
-using namespace NXVBLMODEL;
 
 namespace {
 
@@ -23,33 +19,25 @@ constexpr qint64 LongestSlice = 6; // ms
 constexpr int ProgressInterval = 100; // ms
 constexpr int WeightPerWorker = 16;
 
-NxFootageRoad roadOf(const QString &path)
-{
-    const NxSuffixFacts facts = suffixFacts(QFileInfo(path).suffix());
-    if (facts.type == mtImage)
-        return NxFootageRoad::Still;
-    return facts.type == mtSubtitle ? NxFootageRoad::Text : NxFootageRoad::Stream;
-}
-
 bool isAway(const NxEngineMedia *media)
 {
-    return media->presence() == NxPresence::Missing
-        || media->presence() == NxPresence::Unreachable;
+    return media->presence() == NxPresence::Missing || media->presence() == NxPresence::Unreachable;
 }
 
 NxFootageStatus statusOf(NxPictureState state)
 {
     // By NxPictureState.
-    static constexpr std::array<NxFootageStatus, 4> statuses = {NxFootageStatus::Waiting,
-        NxFootageStatus::Done, NxFootageStatus::NoneThere, NxFootageStatus::Failed};
+    static constexpr std::array<NxFootageStatus, 4> statuses = {
+        NxFootageStatus::Waiting, NxFootageStatus::Done, NxFootageStatus::NoneThere,
+        NxFootageStatus::Failed};
     return statuses[size_t(state)];
 }
 
 NxFootageStatus statusOf(NxReadState state)
 {
     // By NxReadState.
-    static constexpr std::array<NxFootageStatus, 3> statuses
-        = {NxFootageStatus::Waiting, NxFootageStatus::Done, NxFootageStatus::Failed};
+    static constexpr std::array<NxFootageStatus, 3> statuses = {
+        NxFootageStatus::Waiting, NxFootageStatus::Done, NxFootageStatus::Failed};
     return statuses[size_t(state)];
 }
 
@@ -57,16 +45,16 @@ QByteArray hex(const NxFingerprint &fingerprint)
 {
     constexpr int digits = 16;
     return QByteArray::number(fingerprint.high, 16).rightJustified(digits, '0')
-        + QByteArray::number(fingerprint.low, 16).rightJustified(digits, '0');
+           + QByteArray::number(fingerprint.low, 16).rightJustified(digits, '0');
 }
 
 } // namespace
 
 NxFootageReader::NxFootageReader(NxProjectMemory *memory, NxWorkerSettings settings)
-    : m_memory(memory)
-    , m_settings(std::move(settings))
-    , m_bell([this] { pumpLater(); })
-    , m_announcer(memory)
+    : m_memory(memory),
+      m_settings(std::move(settings)),
+      m_bell([this] { pumpLater(); }),
+      m_announcer(memory)
 {
     // A timer, not the bell itself: between two of its turns all other events get theirs.
     m_pumpTimer.setSingleShot(true);
@@ -99,9 +87,9 @@ NxFootageState NxFootageReader::state(const INxAbstractMediaItem *item) const
     const NxFootageRecord record = media->footage();
     const auto pathOf = [this, &record](NxPictureKind kind, NxPictureState made) {
         return made == NxPictureState::Made && !record.fingerprint.isNull()
-            ? m_settings.cacheFolder + QLatin1Char('/')
-                + NxPictureFile::name(record.fingerprint, kind)
-            : QString();
+                   ? m_settings.cacheFolder + QLatin1Char('/')
+                         + NxPictureFile::name(record.fingerprint, kind)
+                   : QString();
     };
     state.facts = statusOf(record.state);
     state.reason = record.reason;
@@ -119,7 +107,7 @@ NxFootageState NxFootageReader::state(const INxAbstractMediaItem *item) const
 bool NxFootageReader::isIdle() const
 {
     return m_fresh.empty() && m_flying.isEmpty() && m_outcomes.empty()
-        && m_order.waiting(NxReadWave::Facts) == 0 && m_order.waiting(NxReadWave::Pictures) == 0;
+           && m_order.waiting(NxReadWave::Facts) == 0 && m_order.waiting(NxReadWave::Pictures) == 0;
 }
 
 void NxFootageReader::pumpLater()
@@ -172,8 +160,7 @@ void NxFootageReader::submit()
     m_thread->add(std::move(requests));
 }
 
-void NxFootageReader::submit(
-    const NxReadingOrder::Item &item, std::vector<NxReadRequest> *requests)
+void NxFootageReader::submit(const NxReadingOrder::Item &item, std::vector<NxReadRequest> *requests)
 {
     const NxEngineMedia *media = m_memory->media(item.media);
     if (!media || !media->folder() || isAway(media)) {
@@ -184,16 +171,12 @@ void NxFootageReader::submit(
     flight.media = item.media;
     flight.path = media->filePath();
     flight.wave = item.wave;
-    NxReadRequest request;
-    request.number = ++m_lastNumber;
-    request.path = QFile::encodeName(flight.path);
-    request.road = roadOf(flight.path);
-    request.wishes = wishesFor(item);
-    m_flying.insert(request.number, flight);
+    const quint64 number = ++m_lastNumber;
+    m_flying.insert(number, flight);
     ++m_flightsOf[size_t(item.wave)][item.media];
     m_load += weightOf(item.wave);
     m_factsFlying += item.wave == NxReadWave::Facts;
-    requests->push_back(request);
+    requests->push_back(NxReadRequests::of(number, flight.path, wishesFor(item)));
 }
 
 quint8 NxFootageReader::wishesFor(const NxReadingOrder::Item &item) const

@@ -1,4 +1,6 @@
 list(APPEND NXVBLENGINE_SOURCES
+    reading/NxFileLength.cpp
+    reading/NxFileLength.h
     reading/NxFolderAnnouncer.cpp
     reading/NxFolderAnnouncer.h
     reading/NxFootageReader.cpp
@@ -8,6 +10,8 @@ list(APPEND NXVBLENGINE_SOURCES
     reading/NxQuietFiles.cpp
     reading/NxQuietFiles.h
     reading/NxReadOutcome.h
+    reading/NxReadRequests.cpp
+    reading/NxReadRequests.h
     reading/NxReadingOrder.cpp
     reading/NxReadingOrder.h
     reading/NxReadingThread.cpp

@@ -5,6 +5,7 @@
 #include <NxVBLEngine/records/NxLosslessText.h>
 
 #include <algorithm>
+#include <iterator>
 #include <utility>
 
 namespace {
@@ -111,27 +112,68 @@ private:
     const char *m_end;
 };
 
-NxChangeKind opposite(NxChangeKind kind)
+struct KindEntry
 {
-    static const std::pair<NxChangeKind, NxChangeKind> pairs[] = {
-        {NxChangeKind::FolderAdd, NxChangeKind::FolderRemove},
-        {NxChangeKind::MediaAdd, NxChangeKind::MediaRemove},
-    };
-    for (const auto &[one, other] : pairs) {
-        if (kind == one)
-            return other;
-        if (kind == other)
-            return one;
-    }
-    return kind;
+    NxChangeKind kind;
+    NxObjectKind object;
+    NxChangeKind opposite; ///< Of the change that takes one back.
+};
+
+using Kind = NxChangeKind;
+
+constexpr KindEntry Kinds[] = {
+    {Kind::FolderAdd, NxObjectKind::Folder, Kind::FolderRemove},
+    {Kind::FolderRemove, NxObjectKind::Folder, Kind::FolderAdd},
+    {Kind::FolderRename, NxObjectKind::Folder, Kind::FolderRename},
+    {Kind::FolderMove, NxObjectKind::Folder, Kind::FolderMove},
+    {Kind::MediaAdd, NxObjectKind::Media, Kind::MediaRemove},
+    {Kind::MediaRemove, NxObjectKind::Media, Kind::MediaAdd},
+    {Kind::MediaRename, NxObjectKind::Media, Kind::MediaRename},
+    {Kind::MediaMove, NxObjectKind::Media, Kind::MediaMove},
+    {Kind::MediaFavourite, NxObjectKind::Media, Kind::MediaFavourite},
+    {Kind::MediaRelink, NxObjectKind::Media, Kind::MediaRelink},
+    {Kind::ResourceRename, NxObjectKind::Resource, Kind::ResourceRename},
+    {Kind::ResourceFavourite, NxObjectKind::Resource, Kind::ResourceFavourite},
+    {Kind::TimelineAdd, NxObjectKind::Timeline, Kind::TimelineRemove},
+    {Kind::TimelineRemove, NxObjectKind::Timeline, Kind::TimelineAdd},
+    {Kind::TimelineRename, NxObjectKind::Timeline, Kind::TimelineRename},
+    {Kind::ClipAdd, NxObjectKind::Clip, Kind::ClipRemove},
+    {Kind::ClipRemove, NxObjectKind::Clip, Kind::ClipAdd},
+    {Kind::ClipMove, NxObjectKind::Clip, Kind::ClipMove},
+};
+
+const KindEntry *entryOf(NxChangeKind kind)
+{
+    const auto entry = std::find_if(std::begin(Kinds), std::end(Kinds),
+                                    [kind](const KindEntry &one) { return one.kind == kind; });
+    return entry == std::end(Kinds) ? nullptr : entry;
 }
 
 } // namespace
 
+bool isChangeKind(int value)
+{
+    return entryOf(NxChangeKind(value)) != nullptr;
+}
+
+NxObjectKind objectOf(NxChangeKind kind)
+{
+    const KindEntry *entry = entryOf(kind);
+    Q_ASSERT(entry);
+    return entry->object;
+}
+
+bool isAddOrRemoval(NxChangeKind kind)
+{
+    const KindEntry *entry = entryOf(kind);
+    return entry && entry->opposite != kind;
+}
+
 NxChange inverted(const NxChange &change)
 {
     NxChange result = change;
-    result.what = opposite(change.what);
+    if (const KindEntry *entry = entryOf(change.what))
+        result.what = entry->opposite;
     std::reverse(result.ids.begin(), result.ids.end());
     std::swap(result.before, result.after);
     return result;

@@ -26,7 +26,6 @@ struct NxMediaRecord
     qint64 created = NxNoTime; ///< ms UTC.
     qint64 modified = NxNoTime; ///< ms UTC.
     qint64 favourite = NxNoTime; ///< When it became a favourite, ms UTC; NxNoTime: it is none.
-    int used = 0; ///< Uses on timelines.
     int importKind = 0; ///< NXVBLMODEL::NxMediaImportType.
     int kindCode = 0; ///< NXVBLMODEL::NxMediaKindCode where the suffix does not tell it.
     bool alive = true; ///< False: removed, and kept for the undo step that can bring it back.

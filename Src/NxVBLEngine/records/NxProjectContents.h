@@ -2,10 +2,12 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #pragma once
 
+#include <NxVBLEngine/records/NxClipRecord.h>
 #include <NxVBLEngine/records/NxFolderRecord.h>
 #include <NxVBLEngine/records/NxFootageRow.h>
 #include <NxVBLEngine/records/NxResourceRecord.h>
 #include <NxVBLEngine/records/NxStoreBatch.h>
+#include <NxVBLEngine/records/NxTimelineRecord.h>
 #include <NxVBLEngine/records/NxUndoRecord.h>
 
 #include <vector>
@@ -23,6 +25,8 @@ struct NxProjectContents
     /// nothing of the user's is lost with them.
     qint64 senselessFootage = 0;
     std::vector<NxResourceRecord> resources;
+    std::vector<NxTimelineRecord> timelines; ///< By id. Dead ones included.
+    std::vector<NxClipRecord> clips; ///< By id. Dead ones included.
     std::vector<NxUndoRecord> undoSteps; ///< Oldest first.
     int undoDone = 0; ///< How many of the steps are done.
     NxStoreEntry::Counters counters;

@@ -3,9 +3,11 @@
 #pragma once
 
 #include <NxVBLEngine/records/NxChange.h>
+#include <NxVBLEngine/records/NxClipRecord.h>
 #include <NxVBLEngine/records/NxFolderRecord.h>
 #include <NxVBLEngine/records/NxFootageRecord.h>
 #include <NxVBLEngine/records/NxMediaRecord.h>
+#include <NxVBLEngine/records/NxTimelineRecord.h>
 
 #include <QVector>
 
@@ -23,6 +25,15 @@ struct NewMedia
 struct NewFolder
 {
     NxFolderRecord folder;
+};
+struct NewTimeline
+{
+    NxTimelineRecord timeline;
+};
+/// New clips, as they stand. Their ClipAdd change need not be applied.
+struct NewClips
+{
+    QVector<NxClipRecord> clips;
 };
 /// A change of what stands: rows are updated to the state after it.
 struct Apply
@@ -66,6 +77,8 @@ struct StepDrop
     QVector<qint64> serials;
     QVector<qint64> deadMedia;
     QVector<qint64> deadFolders;
+    QVector<qint64> deadTimelines = {};
+    QVector<qint64> deadClips = {};
 };
 /// The counters of the project: the next values to be given out.
 struct Counters
@@ -74,10 +87,12 @@ struct Counters
     qint64 nextPlace = 1;
     int nextFolderId = 1001;
     qint64 nextStepSerial = 1;
+    qint64 nextTimelineId = 1;
+    qint64 nextClipId = 1;
 };
 
-using Any = std::variant<NewMedia, NewFolder, Apply, Facts, Footage, StepBegin, StepChange,
-                         StepPosition, StepDrop, Counters>;
+using Any = std::variant<NewMedia, NewFolder, NewTimeline, NewClips, Apply, Facts, Footage,
+                         StepBegin, StepChange, StepPosition, StepDrop, Counters>;
 
 } // namespace NxStoreEntry
 

@@ -1,6 +1,7 @@
 list(APPEND NXVBLENGINE_SOURCES
     records/NxChange.cpp
     records/NxChange.h
+    records/NxClipRecord.h
     records/NxFolderRecord.h
     records/NxFootageRecord.h
     records/NxFootageRow.cpp
@@ -11,4 +12,5 @@ list(APPEND NXVBLENGINE_SOURCES
     records/NxProjectContents.h
     records/NxResourceRecord.h
     records/NxStoreBatch.h
+    records/NxTimelineRecord.h
     records/NxUndoRecord.h)

@@ -4,6 +4,7 @@
 
 #include <NxVBLEngine/store/NxProjectReader.h>
 #include <NxVBLEngine/store/NxSqliteDatabase.h>
+#include <NxVBLEngine/store/NxTimelineRowCheck.h>
 
 #include <QCoreApplication>
 #include <QHash>
@@ -30,7 +31,11 @@ QString said(const char *text, qint64 id)
 class RowCheck
 {
 public:
-    explicit RowCheck(const NxProjectContents &contents) : m_contents(contents) {}
+    explicit RowCheck(const NxProjectContents &contents)
+        : m_contents(contents),
+          m_timelines(contents)
+    {
+    }
 
     QStringList problems()
     {
@@ -40,7 +45,7 @@ public:
         checkFootage();
         checkCounters();
         checkUndo();
-        return m_problems;
+        return m_problems + m_timelines.problems();
     }
 
 private:
@@ -150,18 +155,31 @@ private:
 
     [[nodiscard]] bool isKnown(const NxChange &change) const
     {
-        const bool isFolderChange =
-            change.what >= NxChangeKind::FolderAdd && change.what <= NxChangeKind::FolderMove;
-        if (change.what >= NxChangeKind::ResourceRename)
-            return true;
-        return std::all_of(change.ids.begin(), change.ids.end(), [&](qint64 id) {
-            return isFolderChange ? m_folders.contains(int(id)) : m_media.contains(id);
-        });
+        return std::all_of(change.ids.begin(), change.ids.end(),
+                           [&](qint64 id) { return isKnown(objectOf(change.what), id); });
+    }
+
+    [[nodiscard]] bool isKnown(NxObjectKind kind, qint64 id) const
+    {
+        switch (kind) {
+        case NxObjectKind::Folder:
+            return m_folders.contains(int(id));
+        case NxObjectKind::Media:
+            return m_media.contains(id);
+        case NxObjectKind::Timeline:
+            return m_timelines.knowsTimeline(id);
+        case NxObjectKind::Clip:
+            return m_timelines.knowsClip(id);
+        case NxObjectKind::Resource:
+            break; // Made by the engine, for every project.
+        }
+        return true;
     }
 
     const NxProjectContents &m_contents;
     QHash<int, const NxFolderRecord *> m_folders;
     QSet<qint64> m_media;
+    NxTimelineRowCheck m_timelines;
     QStringList m_problems;
 };
 

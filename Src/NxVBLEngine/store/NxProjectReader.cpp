@@ -55,10 +55,9 @@ bool readOneMedia(const NxSqliteStatement &row, NxMediaRecord *media)
     media->created = from.time(9);
     media->modified = from.time(10);
     media->favourite = from.time(11);
-    media->used = from.integer(12);
-    media->importKind = from.integer(13);
-    media->kindCode = from.integer(14);
-    media->alive = from.flag(15);
+    media->importKind = from.integer(12);
+    media->kindCode = from.integer(13);
+    media->alive = from.flag(14);
     return from.fits() && media->id > 0 && isCategory(media->category) && media->folder >= 0
            && media->size >= -1;
 }
@@ -69,6 +68,32 @@ bool readResource(const NxSqliteStatement &row, NxResourceRecord *resource)
     resource->name = row.text(1);
     resource->favourite = NxNarrowing(row).time(2);
     return true;
+}
+
+bool readTimeline(const NxSqliteStatement &row, NxTimelineRecord *timeline)
+{
+    NxNarrowing from(row);
+    timeline->id = from.atLeast(1, 0);
+    timeline->name = row.text(1);
+    timeline->outerClip = from.atLeast(0, 2);
+    timeline->alive = from.flag(3);
+    return from.fits();
+}
+
+bool readClip(const NxSqliteStatement &row, NxClipRecord *clip)
+{
+    NxNarrowing from(row);
+    clip->id = from.atLeast(1, 0);
+    clip->timeline = from.atLeast(1, 1);
+    clip->split = from.atLeast(0, 2);
+    clip->kind = from.oneOf(3, NXVBLMODEL::ckComposite);
+    clip->media = from.atLeast(0, 4);
+    clip->place.track = from.integer(5);
+    clip->place.position = row.integer(6);
+    clip->place.length = row.integer(7);
+    clip->place.inPoint = from.atLeast(0, 8);
+    clip->alive = from.flag(9);
+    return from.fits() && (clip->split != 0 || isPossible(clip->place));
 }
 
 bool readStep(const NxSqliteStatement &row, NxUndoRecord *step)
@@ -94,8 +119,7 @@ bool readChange(const NxSqliteStatement &row, ChangeRow *change)
     const int kind = from.integer(2);
     change->change.what = NxChangeKind(kind);
     change->change.category = from.integer(3);
-    return from.fits() && kind >= int(NxChangeKind::FolderAdd)
-           && kind <= int(NxChangeKind::ResourceFavourite) && isCategory(change->change.category)
+    return from.fits() && isChangeKind(kind) && isCategory(change->change.category)
            && unpackIds(row.blob(4), &change->change.ids)
            && unpackState(row.blob(5), &change->change.before)
            && unpackState(row.blob(6), &change->change.after);
@@ -152,6 +176,7 @@ NxProjectContents NxProjectReader::read(const QString &damage)
     readMedia();
     readFootage();
     readResources();
+    readTimelines();
     readUndo();
     m_damage += m_tables.damage();
     const qint64 impossible = m_tables.impossible() + m_strayChanges;
@@ -172,6 +197,8 @@ void NxProjectReader::readMeta()
     counters.nextPlace = metaNumber("next_place", 1);
     counters.nextFolderId = int(metaNumber("next_folder_id", 1001));
     counters.nextStepSerial = metaNumber("next_step_serial", 1);
+    counters.nextTimelineId = metaNumber("next_timeline_id", 1);
+    counters.nextClipId = metaNumber("next_clip_id", 1);
     m_contents.undoDone = int(metaNumber("undo_done", 0));
 
     NxSqliteStatement folder =
@@ -205,8 +232,8 @@ void NxProjectReader::readMedia()
 {
     const Table table{QT_TRANSLATE_NOOP("NxProjectStore", "the list of media breaks off"),
                       "SELECT id, category, folder, place, name, path, canonical_path,"
-                      " relative_path, size, created, modified, favourite, used, import_kind,"
-                      " kind_code, alive FROM media",
+                      " relative_path, size, created, modified, favourite, import_kind, kind_code,"
+                      " alive FROM media",
                       "id"};
     m_contents.media.reserve(size_t(mediaEstimate()));
     m_tables.read(table, &m_contents.media, readOneMedia, IdOf);
@@ -253,6 +280,18 @@ void NxProjectReader::readResources()
     const Table table{QT_TRANSLATE_NOOP("NxProjectStore", "the list of resources breaks off"),
                       "SELECT id, name, favourite FROM resource", "id"};
     m_tables.read(table, &m_contents.resources, readResource, IdOf);
+}
+
+void NxProjectReader::readTimelines()
+{
+    const Table timelines{QT_TRANSLATE_NOOP("NxProjectStore", "the list of timelines breaks off"),
+                          "SELECT id, name, outer_clip, alive FROM timeline", "id"};
+    m_tables.read(timelines, &m_contents.timelines, readTimeline, IdOf);
+    const Table clips{QT_TRANSLATE_NOOP("NxProjectStore", "the list of clips breaks off"),
+                      "SELECT id, timeline, split, kind, media, track, position, length, in_point,"
+                      " alive FROM clip",
+                      "id"};
+    m_tables.read(clips, &m_contents.clips, readClip, IdOf);
 }
 
 void NxProjectReader::readUndo()

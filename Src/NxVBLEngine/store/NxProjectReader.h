@@ -26,6 +26,7 @@ private:
     void readMedia();
     void readFootage();
     void readResources();
+    void readTimelines();
     void readUndo();
     void sortMedia();
     [[nodiscard]] qint64 mediaEstimate();

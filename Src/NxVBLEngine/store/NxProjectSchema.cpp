@@ -99,6 +99,41 @@ CREATE TABLE footage(
 ) STRICT;
 )sql";
 
+/// How often timelines use a media follows from their clips and is kept no longer, nor are undo
+/// steps that did nothing but note it. For none, ids are 0.
+constexpr const char *TimelineTables = R"sql(
+CREATE TABLE timeline(
+    id INTEGER PRIMARY KEY,
+    name TEXT NOT NULL,
+    outer_clip INTEGER NOT NULL,
+    alive INTEGER NOT NULL
+) STRICT;
+CREATE TABLE clip(
+    id INTEGER PRIMARY KEY,
+    timeline INTEGER NOT NULL,
+    split INTEGER NOT NULL,
+    kind INTEGER NOT NULL,
+    media INTEGER NOT NULL,
+    track INTEGER NOT NULL,
+    position INTEGER NOT NULL,
+    length INTEGER NOT NULL,
+    in_point INTEGER NOT NULL,
+    alive INTEGER NOT NULL
+) STRICT;
+INSERT INTO meta(key, value) VALUES('next_timeline_id', 1), ('next_clip_id', 1);
+ALTER TABLE media DROP COLUMN used;
+CREATE TEMP TABLE use_step AS
+    SELECT step FROM undo_change GROUP BY step HAVING min(kind) = 11 AND max(kind) = 11;
+UPDATE meta SET value = value - (
+    SELECT count(*) FROM use_step WHERE step IN (
+        SELECT serial FROM undo_step ORDER BY serial
+        LIMIT (SELECT value FROM meta WHERE key = 'undo_done')))
+    WHERE key = 'undo_done';
+DELETE FROM undo_step WHERE serial IN (SELECT step FROM use_step);
+DELETE FROM undo_change WHERE kind = 11;
+DROP TABLE use_step;
+)sql";
+
 static_assert(NxProjectSchema::ApplicationId == 1114797678);
 
 bool makeFirstTables(NxSqliteDatabase &database)
@@ -111,6 +146,11 @@ bool makeFootageTables(NxSqliteDatabase &database)
     return database.execute(FootageTables);
 }
 
+bool makeTimelineTables(NxSqliteDatabase &database)
+{
+    return database.execute(TimelineTables);
+}
+
 bool setVersion(NxSqliteDatabase *database, size_t version)
 {
     const QByteArray sql = "PRAGMA user_version = " + QByteArray::number(qulonglong(version));
@@ -121,7 +161,8 @@ bool setVersion(NxSqliteDatabase *database, size_t version)
 
 const std::vector<NxSchemaStep> &NxProjectSchema::steps()
 {
-    static const std::vector<NxSchemaStep> all{makeFirstTables, makeFootageTables};
+    static const std::vector<NxSchemaStep> all{makeFirstTables, makeFootageTables,
+                                               makeTimelineTables};
     return all;
 }
 

@@ -47,8 +47,8 @@ NxResult<void> copyFile(const QString &from, const QString &to)
 constexpr const char *CountOurTables =
     "SELECT count(*) FROM sqlite_schema WHERE type = 'table' AND name IN "
     "('meta', 'folder', 'media', 'resource', 'undo_step', 'undo_change', 'stream_description',"
-    " 'footage')";
-constexpr int OurTables = 8;
+    " 'footage', 'timeline', 'clip')";
+constexpr int OurTables = 10;
 
 } // namespace
 

@@ -14,6 +14,8 @@ namespace {
 enum Sql : int {
     InsertMedia,
     InsertFolder,
+    InsertTimeline,
+    InsertClip,
     SetFolderAlive,
     SetFolderName,
     SetFolderParent,
@@ -22,11 +24,14 @@ enum Sql : int {
     SetMediaFolder,
     SetMediaFavourite,
     SetMediaPath,
-    SetMediaUsed,
     SetMediaFacts,
     SetResourceName,
     SetResourceFavourite,
     DropNeutralResource,
+    SetTimelineAlive,
+    SetTimelineName,
+    SetClipAlive,
+    SetClipPlace,
     DropUndoneChanges,
     DropUndoneSteps,
     InsertStep,
@@ -36,6 +41,8 @@ enum Sql : int {
     DropStep,
     DropMedia,
     DropFolder,
+    DropTimeline,
+    DropClip,
     ClampPosition,
     SetMeta,
 };
@@ -46,10 +53,13 @@ enum Sql : int {
 
 /// By the enum above. ?1 is the id, except where a row is made.
 constexpr const char *Texts[] = {
-    "INSERT INTO media(id, category, folder, place, size, created, modified, favourite, used,"
+    "INSERT INTO media(id, category, folder, place, size, created, modified, favourite,"
     " import_kind, kind_code, alive, name, path, canonical_path, relative_path)"
-    " VALUES(?1, ?2, ?3, ?4, ?5, ?6, ?7, ?8, ?9, ?10, ?11, ?12, ?13, ?14, ?15, ?16)",
+    " VALUES(?1, ?2, ?3, ?4, ?5, ?6, ?7, ?8, ?9, ?10, ?11, ?12, ?13, ?14, ?15)",
     "INSERT INTO folder(id, category, parent, place, alive, name) VALUES(?1, ?2, ?3, ?4, ?5, ?6)",
+    "INSERT INTO timeline(id, outer_clip, alive, name) VALUES(?1, ?2, ?3, ?4)",
+    "INSERT INTO clip(id, timeline, split, kind, media, track, position, length, in_point, alive)"
+    " VALUES(?1, ?2, ?3, ?4, ?5, ?6, ?7, ?8, ?9, ?10)",
     "UPDATE folder SET alive = ?2 WHERE id = ?1",
     "UPDATE folder SET name = ?2 WHERE id = ?1",
     "UPDATE folder SET parent = ?2, place = ?3 WHERE id = ?1",
@@ -58,7 +68,6 @@ constexpr const char *Texts[] = {
     "UPDATE media SET folder = ?2, place = ?3 WHERE id = ?1",
     "UPDATE media SET favourite = ?2 WHERE id = ?1",
     "UPDATE media SET path = ?2, canonical_path = ?3, relative_path = '' WHERE id = ?1",
-    "UPDATE media SET used = ?2 WHERE id = ?1",
     "UPDATE media SET size = ?2, created = ?3, modified = ?4, path = ?5, canonical_path = ?6,"
     " relative_path = ?7 WHERE id = ?1",
     "INSERT INTO resource(id, name) VALUES(?1, ?2)"
@@ -66,6 +75,10 @@ constexpr const char *Texts[] = {
     "INSERT INTO resource(id, name, favourite) VALUES(?1, '', ?2)"
     " ON CONFLICT(id) DO UPDATE SET favourite = excluded.favourite",
     "DELETE FROM resource WHERE id = ?1 AND name = '' AND favourite IS NULL",
+    "UPDATE timeline SET alive = ?2 WHERE id = ?1",
+    "UPDATE timeline SET name = ?2 WHERE id = ?1",
+    "UPDATE clip SET alive = ?2 WHERE id = ?1",
+    "UPDATE clip SET track = ?2, position = ?3 WHERE id = ?1",
     "DELETE FROM undo_change WHERE step IN " NX_UNDONE_STEPS,
     "DELETE FROM undo_step WHERE serial IN " NX_UNDONE_STEPS,
     "INSERT INTO undo_step(serial, function, action) VALUES(?1, ?2, ?3)",
@@ -76,6 +89,8 @@ constexpr const char *Texts[] = {
     "DELETE FROM undo_step WHERE serial = ?1",
     "DELETE FROM media WHERE id = ?1 AND alive = 0",
     "DELETE FROM folder WHERE id = ?1 AND alive = 0",
+    "DELETE FROM timeline WHERE id = ?1 AND alive = 0",
+    "DELETE FROM clip WHERE id = ?1 AND alive = 0",
     "UPDATE meta SET value = min(value, (SELECT count(*) FROM undo_step))"
     " WHERE key = 'undo_done'",
     "INSERT INTO meta(key, value) VALUES(?1, ?2)"
@@ -91,7 +106,6 @@ enum class Takes {
     Text,
     BothTexts,
     FolderAndPlace,
-    Number,
     Time,
 };
 
@@ -114,9 +128,14 @@ constexpr ApplyRule ApplyRules[] = {
     {NxChangeKind::MediaMove, SetMediaFolder, Takes::FolderAndPlace, false},
     {NxChangeKind::MediaFavourite, SetMediaFavourite, Takes::Time, false},
     {NxChangeKind::MediaRelink, SetMediaPath, Takes::BothTexts, false},
-    {NxChangeKind::MediaUsed, SetMediaUsed, Takes::Number, false},
     {NxChangeKind::ResourceRename, SetResourceName, Takes::Text, true},
     {NxChangeKind::ResourceFavourite, SetResourceFavourite, Takes::Time, true},
+    {NxChangeKind::TimelineAdd, SetTimelineAlive, Takes::Alive, false},
+    {NxChangeKind::TimelineRemove, SetTimelineAlive, Takes::Dead, false},
+    {NxChangeKind::TimelineRename, SetTimelineName, Takes::Text, false},
+    {NxChangeKind::ClipAdd, SetClipAlive, Takes::Alive, false},
+    {NxChangeKind::ClipRemove, SetClipAlive, Takes::Dead, false},
+    {NxChangeKind::ClipMove, SetClipPlace, Takes::FolderAndPlace, false},
 };
 
 void bindTime(NxSqliteStatement *statement, int parameter, qint64 time)
@@ -141,8 +160,6 @@ void bindState(NxSqliteStatement *statement, const NxChangeState &state, Takes t
     case Takes::FolderAndPlace:
         statement->bind(2, state.folder);
         return statement->bind(3, state.place);
-    case Takes::Number:
-        return statement->bind(2, state.number);
     case Takes::Time:
         return bindTime(statement, 2, state.number);
     }
@@ -158,11 +175,25 @@ bool insertMedia(NxSqliteStatement *insert, const NxMediaRecord &media)
     bindTime(insert, 6, media.created);
     bindTime(insert, 7, media.modified);
     bindTime(insert, 8, media.favourite);
-    insert->bind(9, media.used);
-    insert->bind(10, media.importKind);
-    insert->bind(11, media.kindCode);
-    insert->bind(12, media.alive ? 1 : 0);
-    insert->bindTexts(13, media.name, media.path, media.canonicalPath, media.relativePath);
+    insert->bind(9, media.importKind);
+    insert->bind(10, media.kindCode);
+    insert->bind(11, media.alive ? 1 : 0);
+    insert->bindTexts(12, media.name, media.path, media.canonicalPath, media.relativePath);
+    return insert->run();
+}
+
+bool insertClip(NxSqliteStatement *insert, const NxClipRecord &clip)
+{
+    insert->bind(1, clip.id);
+    insert->bind(2, clip.timeline);
+    insert->bind(3, clip.split);
+    insert->bind(4, clip.kind);
+    insert->bind(5, clip.media);
+    insert->bind(6, clip.place.track);
+    insert->bind(7, clip.place.position);
+    insert->bind(8, clip.place.length);
+    insert->bind(9, clip.place.inPoint);
+    insert->bind(10, clip.alive ? 1 : 0);
     return insert->run();
 }
 
@@ -212,6 +243,24 @@ bool NxProjectWriter::writeEntry(const NxStoreEntry::NewFolder &entry)
     insert->bind(5, folder.alive ? 1 : 0);
     insert->bindTexts(6, folder.name);
     return insert->run();
+}
+
+bool NxProjectWriter::writeEntry(const NxStoreEntry::NewTimeline &entry)
+{
+    const NxTimelineRecord &timeline = entry.timeline;
+    NxSqliteStatement *const insert = statement(InsertTimeline);
+    insert->bind(1, timeline.id);
+    insert->bind(2, timeline.outerClip);
+    insert->bind(3, timeline.alive ? 1 : 0);
+    insert->bindTexts(4, timeline.name);
+    return insert->run();
+}
+
+bool NxProjectWriter::writeEntry(const NxStoreEntry::NewClips &entry)
+{
+    NxSqliteStatement *const insert = statement(InsertClip);
+    return std::all_of(entry.clips.begin(), entry.clips.end(),
+                       [insert](const NxClipRecord &clip) { return insertClip(insert, clip); });
 }
 
 bool NxProjectWriter::writeEntry(const NxStoreEntry::Apply &entry)
@@ -289,14 +338,18 @@ bool NxProjectWriter::writeEntry(const NxStoreEntry::StepDrop &entry)
 {
     return runForEach(DropStepChanges, entry.serials) && runForEach(DropStep, entry.serials)
            && runForEach(DropMedia, entry.deadMedia) && m_footage.dropOfGone(entry.deadMedia)
-           && runForEach(DropFolder, entry.deadFolders) && statement(ClampPosition)->run();
+           && runForEach(DropFolder, entry.deadFolders)
+           && runForEach(DropTimeline, entry.deadTimelines) && runForEach(DropClip, entry.deadClips)
+           && statement(ClampPosition)->run();
 }
 
 bool NxProjectWriter::writeEntry(const NxStoreEntry::Counters &entry)
 {
     return setMeta("next_media_id", entry.nextMediaId) && setMeta("next_place", entry.nextPlace)
            && setMeta("next_folder_id", entry.nextFolderId)
-           && setMeta("next_step_serial", entry.nextStepSerial);
+           && setMeta("next_step_serial", entry.nextStepSerial)
+           && setMeta("next_timeline_id", entry.nextTimelineId)
+           && setMeta("next_clip_id", entry.nextClipId);
 }
 
 bool NxProjectWriter::setMeta(const char *key, qint64 value)

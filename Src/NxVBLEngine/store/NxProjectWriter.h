@@ -32,11 +32,13 @@ public:
     [[nodiscard]] NxResult<void> writeProjectFolder(const QString &folder);
 
 private:
-    static constexpr int SqlCount = 26;
+    static constexpr int SqlCount = 33;
 
     // Each answers false when it failed; m_refusal then tells why, or the database does.
     [[nodiscard]] bool writeEntry(const NxStoreEntry::NewMedia &entry);
     [[nodiscard]] bool writeEntry(const NxStoreEntry::NewFolder &entry);
+    [[nodiscard]] bool writeEntry(const NxStoreEntry::NewTimeline &entry);
+    [[nodiscard]] bool writeEntry(const NxStoreEntry::NewClips &entry);
     [[nodiscard]] bool writeEntry(const NxStoreEntry::Apply &entry);
     [[nodiscard]] bool writeEntry(const NxStoreEntry::Facts &entry);
     [[nodiscard]] bool writeEntry(const NxStoreEntry::Footage &entry);

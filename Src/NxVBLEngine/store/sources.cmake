@@ -44,4 +44,6 @@ list(APPEND NXVBLENGINE_SOURCES
     store/NxStreamsForm.cpp
     store/NxStreamsForm.h
     store/NxTableReader.cpp
-    store/NxTableReader.h)
+    store/NxTableReader.h
+    store/NxTimelineRowCheck.cpp
+    store/NxTimelineRowCheck.h)

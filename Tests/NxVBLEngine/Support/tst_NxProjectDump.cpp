@@ -14,8 +14,8 @@
 
 namespace {
 
-constexpr const char *Tables[] = {"meta",     "folder",    "media",
-                                  "resource", "undo_step", "undo_change"};
+constexpr const char *Tables[] = {"meta",      "folder",      "media",    "resource",
+                                  "undo_step", "undo_change", "timeline", "clip"};
 
 NxChange renamed(qint64 id, const QString &name)
 {
@@ -49,6 +49,11 @@ NxStoreBatch something()
     batch.push_back(NxStoreEntry::NewFolder{folder});
     batch.push_back(NxStoreEntry::NewMedia{{media}});
     batch.push_back(NxStoreEntry::Apply{resource});
+    batch.push_back(NxStoreEntry::NewTimeline{{1, QStringLiteral("Film"), 0, true}});
+    NxClipRecord clip;
+    clip.id = clip.timeline = clip.media = 1;
+    clip.place.length = 20;
+    batch.push_back(NxStoreEntry::NewClips{{clip}});
     batch.push_back(NxStoreEntry::StepBegin{1, QStringLiteral("f"), QStringLiteral("Rename")});
     batch.push_back(NxStoreEntry::StepChange{1, renamed(1, QStringLiteral("after"))});
     return batch;
@@ -122,8 +127,10 @@ void tst_NxProjectDump::init()
 void tst_NxProjectDump::isTheSameForTheSameContents()
 {
     const QByteArray before = dumpProjectFile(m_path);
-    QCOMPARE(run(m_path, "UPDATE media SET used = 9; VACUUM; UPDATE media SET used = 0; REINDEX"),
-             SQLITE_OK);
+    QCOMPARE(
+        run(m_path,
+            "UPDATE media SET size = size + 9; VACUUM; UPDATE media SET size = size - 9; REINDEX"),
+        SQLITE_OK);
     QCOMPARE(dumpProjectFile(m_path), before);
 }
 
@@ -140,7 +147,7 @@ void tst_NxProjectDump::seesEveryColumn()
             ++seen;
         }
     }
-    QVERIFY(seen >= 2 + 6 + 16 + 3 + 3 + 7);
+    QVERIFY(seen >= 2 + 6 + 15 + 3 + 3 + 7 + 4 + 10);
 }
 
 void tst_NxProjectDump::seesARowMoreAndARowLess()

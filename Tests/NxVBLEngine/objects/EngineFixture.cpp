@@ -2,7 +2,11 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "EngineFixture.h"
 
+#include <NxVBLEngine/objects/NxClipNode.h>
+#include <NxVBLEngine/objects/NxTimelineNode.h>
+#include <NxVBLModel/INxCompositeTimeline.h>
 #include <NxVBLModel/INxMediaInfo.h>
+#include <NxVBLModel/INxSplitScreenClip.h>
 #include <NxWorkerProtocol/NxWorkerMessages.h>
 
 #include <QTextStream>
@@ -13,7 +17,8 @@ EngineFixture::EngineFixture()
       section(category->folder(NXVBLMODEL::fidRoot)),
       folders(category->engineFolderManager()),
       items(category->engineItemManager()),
-      undo(memory.undoStack())
+      undo(memory.undoStack()),
+      editor(memory.timelines()->editor())
 {
 }
 
@@ -132,6 +137,35 @@ void dumpFolder(QTextStream &out, const INxFolderMedia *folder)
         dumpFolder(out, child);
 }
 
+void dumpClip(QTextStream &out, const NxTimelineMemory &memory, INxClip *clip)
+{
+    const NxClipPlace place = clip->place();
+    out << "clip " << NxTimelineMemory::nodeOf(clip)->id() << " kind " << clip->kind() << " media "
+        << clip->mediaId() << " on " << NxTimelineMemory::nodeOf(clip->timeline())->id() << " at "
+        << place.track << ' ' << place.position << ' ' << place.length << ' ' << place.inPoint
+        << '\n';
+    for (const NxTimelineUse &use : memory.uses(clip->mediaId())) {
+        out << " use " << NxTimelineMemory::nodeOf(use.timeline)->id() << ' '
+            << NxTimelineMemory::nodeOf(use.clip)->id() << '\n';
+    }
+    if (auto *split = dynamic_cast<INxSplitScreenClip *>(clip)) {
+        const QList<INxClip *> inner = split->innerClips();
+        for (INxClip *one : inner)
+            dumpClip(out, memory, one);
+    }
+}
+
+void dumpTimeline(QTextStream &out, const NxTimelineMemory &memory, INxTimeline *timeline)
+{
+    const auto *composite = dynamic_cast<INxCompositeTimeline *>(timeline);
+    out << "timeline " << NxTimelineMemory::nodeOf(timeline)->id() << " [" << timeline->name()
+        << "] " << timeline->trackCount() << ' ' << timeline->frameCount() << " stands as "
+        << (composite ? NxTimelineMemory::nodeOf(composite->outerClip())->id() : 0) << '\n';
+    const QList<INxClip *> clips = timeline->clips();
+    for (INxClip *clip : clips)
+        dumpClip(out, memory, clip);
+}
+
 } // namespace
 
 QByteArray projectDump(const NxProjectMemory &memory)
@@ -144,5 +178,8 @@ QByteArray projectDump(const NxProjectMemory &memory)
             << '\n';
         dumpFolder(out, one->root());
     }
+    const QList<INxTimeline *> timelines = memory.timelines()->timelines();
+    for (INxTimeline *timeline : timelines)
+        dumpTimeline(out, *memory.timelines(), timeline);
     return text.toUtf8();
 }

@@ -7,8 +7,10 @@
 #include <NxVBLEngine/objects/NxEngineFolderManager.h>
 #include <NxVBLEngine/objects/NxEngineItemManager.h>
 #include <NxVBLEngine/objects/NxEngineMedia.h>
+#include <NxVBLEngine/objects/NxEngineTimelineEditor.h>
 #include <NxVBLEngine/objects/NxEngineUndoStack.h>
 #include <NxVBLEngine/objects/NxProjectMemory.h>
+#include <NxVBLEngine/objects/NxTimelineMemory.h>
 #include <NxVBLModel/NxMediaRef.h>
 
 #include <QStringList>
@@ -24,6 +26,7 @@ struct EngineFixture
     NxEngineFolderManager *const folders;
     NxEngineItemManager *const items;
     NxEngineUndoStack *const undo;
+    NxEngineTimelineEditor *const editor;
 
     /// A new media "/footage/NAME".
     NxEngineMedia *addMedia(NxEngineFolder *folder, const QString &name);
@@ -35,6 +38,7 @@ struct EngineFixture
 /// Names of what a folder lists, separated by blanks.
 [[nodiscard]] QString listing(const INxFolderMedia *folder, bool recursive = true);
 
-/// Every folder and every item of every category with the answer of every query, as text. Only
+/// Every folder and item of every category and every timeline and clip, with the answer of every
+/// query, as text. Only
 /// whether a file is there is left out: the disk says that, not the project.
 [[nodiscard]] QByteArray projectDump(const NxProjectMemory &memory);

@@ -164,15 +164,6 @@ bool RandomSession::relink()
                                            + QStringLiteral(".wav"));
 }
 
-bool RandomSession::setUsed()
-{
-    NxEngineMedia *media = anyMedia();
-    return media
-           && m_memory->category(media->category())
-                  ->engineItemManager()
-                  ->setUsedCount(media, media->usedCount() + 1);
-}
-
 bool RandomSession::several()
 {
     const NxUndoRedoCommander scope(m_memory->undoStack(), QStringLiteral("t"),
@@ -195,7 +186,7 @@ bool RandomSession::redo()
 
 bool RandomSession::step()
 {
-    static const std::array<Choice, 16> choices = {{
+    static const std::array<Choice, 26> choices = {{
         {"addMedia", &RandomSession::addMedia, 30},
         {"addFolder", &RandomSession::addFolder, 10},
         {"renameMedia", &RandomSession::renameMedia, 10},
@@ -208,7 +199,17 @@ bool RandomSession::step()
         {"markMedia", &RandomSession::markMedia, 6},
         {"markResource", &RandomSession::markResource, 3},
         {"relink", &RandomSession::relink, 4},
-        {"setUsed", &RandomSession::setUsed, 4},
+        {"addTimeline", &RandomSession::addTimeline, 4},
+        {"addComposite", &RandomSession::addComposite, 6},
+        {"addClip", &RandomSession::addClip, 25},
+        {"addSplitScreen", &RandomSession::addSplitScreen, 6},
+        {"addInnerClip", &RandomSession::addInnerClip, 8},
+        {"moveClip", &RandomSession::moveClip, 8},
+        {"removeClip", &RandomSession::removeClip, 10},
+        {"removeInnerClip", &RandomSession::removeInnerClip, 3},
+        {"bringBackClip", &RandomSession::bringBackClip, 6},
+        {"renameTimeline", &RandomSession::renameTimeline, 3},
+        {"removeTimeline", &RandomSession::removeTimeline, 2},
         {"several", &RandomSession::several, 5},
         {"undo", &RandomSession::undo, 12},
         {"redo", &RandomSession::redo, 6},

@@ -38,7 +38,17 @@ private:
     bool markMedia();
     bool markResource();
     bool relink();
-    bool setUsed();
+    bool addTimeline();
+    bool addComposite();
+    bool addClip();
+    bool addSplitScreen();
+    bool addInnerClip();
+    bool moveClip();
+    bool removeClip();
+    bool removeInnerClip();
+    bool bringBackClip();
+    bool renameTimeline();
+    bool removeTimeline();
     bool several();
     bool undo();
     bool redo();
@@ -49,10 +59,18 @@ private:
     NxEngineFolder *anyFolder(NxEngineCategory *category, bool userFolder);
     NxEngineMedia *anyMedia();
     QList<INxAbstractMedia *> someMedia(NxEngineCategory *category);
+    /// What a timeline may show: media, or now and then a resource.
+    INxAbstractMedia *anyShown();
+    INxTimeline *anyTimeline();
+    INxClip *anyClip(INxTimeline *timeline);
+    INxSplitScreenClip *anySplitScreen();
+    NxClipPlace anyPlace();
+    NxTimelineMemory *timelines() const { return m_memory->timelines(); }
 
     NxProjectMemory *const m_memory;
     const quint32 m_seed; // Two sessions over one project name different files.
     std::mt19937 m_random;
     int m_serial = 0;
+    qint64 m_lastRemoved = 0; // Of clips, by id.
     QString m_operation;
 };

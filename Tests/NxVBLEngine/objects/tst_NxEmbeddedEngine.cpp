@@ -7,14 +7,18 @@
 #include <NxCore/NxFile.h>
 #include <NxVBLEngine/NxEmbeddedEngine.h>
 #include <NxVBLEngine/NxEngineProject.h>
+#include <NxVBLModel/INxClip.h>
+#include <NxVBLModel/INxCompositeTimeline.h>
 #include <NxVBLModel/INxFolderMedia.h>
 #include <NxVBLModel/INxFolderMediaManager.h>
 #include <NxVBLModel/INxMediaImporter.h>
 #include <NxVBLModel/INxMediaItemEventObserver.h>
 #include <NxVBLModel/INxMediaItemManager.h>
 #include <NxVBLModel/INxProjectManager.h>
+#include <NxVBLModel/INxTimeline.h>
 #include <NxVBLModel/NxMediaEngineDoor.h>
 #include <NxVBLModel/NxObserverConnector.h>
+#include <NxVBLModel/NxTimelineUse.h>
 
 #include <NxVBLEngine/Support/NxFootageSamples.h>
 #include <NxVBLEngine/Support/NxProjectDump.h>
@@ -181,6 +185,40 @@ private Q_SLOTS:
         QVERIFY2(project, qPrintable(project.errorText()));
         QCOMPARE(dumpOf(*project), before);
         QCOMPARE(engine.integrityProblems().join(QLatin1Char('\n')), QString());
+    }
+
+    void timelinesAreThereWhenOpenedAgain()
+    {
+        const QString path = freshPath();
+        NxEmbeddedEngine engine(noBackups());
+        const auto project = engine.createProject(path);
+        QVERIFY(project);
+        QVERIFY((*project)->timelines().isEmpty());
+        INxTimelineEditor *editor = (*project)->timelineEditor();
+        QVERIFY(editor);
+        NxMediaSeed seed;
+        seed.path = QStringLiteral("/footage/a.mov");
+        NxProjectMemory *memory = static_cast<NxEngineProject *>(*project)->memory();
+        NxEngineMedia *media =
+            memory->addNewMedia(memory->category(mctMedia)->folder(fidRoot), {seed}).first();
+        INxTimeline *film = editor->addTimeline(QStringLiteral("Film"));
+        INxTimeline *inside = editor->addComposite(film, QStringLiteral("Inside"), {0, 0, 9, 0});
+        QVERIFY(editor->addClip(inside, media, {2, 3, 4, 5}));
+        const QString id = media->mediaId();
+        QCOMPARE((*project)->timelines(), (QList<INxTimeline *>{film, inside}));
+        QVERIFY(engine.closeProject());
+
+        const auto again = engine.openProject(path, NxProjectOpenMode::ReadOnly);
+        QVERIFY2(again, qPrintable(again.errorText()));
+        const QList<INxTimeline *> timelines = (*again)->timelines();
+        QCOMPARE(timelines.size(), 2);
+        QCOMPARE(timelines.last()->name(), QStringLiteral("Inside"));
+        const QList<NxTimelineUse> uses = (*again)->timelineUses(id);
+        QCOMPARE(uses.size(), 1);
+        QCOMPARE(uses.first().timeline, timelines.last());
+        QVERIFY(uses.first().clip->place() == (NxClipPlace{2, 3, 4, 5}));
+        QVERIFY(!(*again)->timelineEditor()->addTimeline(QStringLiteral("x")));
+        QVERIFY((*again)->timelineUses(QStringLiteral("nobody")).isEmpty());
     }
 
     void whatWasReadOfFootageIsThereWhenOpenedAgain_data()

@@ -203,20 +203,6 @@ private Q_SLOTS:
         QVERIFY(!media->favouriteTime().isValid());
     }
 
-    void usedCountsAreUndoableAndNotNegative()
-    {
-        EngineFixture project;
-        NxEngineMedia *media = project.addMedia(project.section, QStringLiteral("a"));
-        EngineEvents events(project.category);
-        QVERIFY(project.items->setUsedCount(media, 3));
-        QVERIFY(project.items->setUsedCount(media, 3));
-        QVERIFY(!project.items->setUsedCount(media, -1));
-        QCOMPARE(media->usedCount(), 3);
-        QCOMPARE(events.take(), QStringList(QStringLiteral("state a")));
-        project.undo->undo();
-        QCOMPARE(media->usedCount(), 0);
-    }
-
     void relinkKeepsTheIdentityAndReadsTheSuffixAgain()
     {
         EngineFixture project;
@@ -322,18 +308,48 @@ private Q_SLOTS:
         QVERIFY(!project.items->moveMediaItems(nullptr, folder, {media}));
         QVERIFY(!project.items->relinkMedia(media, QStringLiteral("/x")));
         QVERIFY(!project.items->addMediaItems(folder, {media}));
-        QVERIFY(!project.items->setUsedCount(media, 1));
         QVERIFY(project.memory.addNewMedia(project.section, {NxMediaSeed()}).isEmpty());
         QCOMPARE(projectDump(project.memory), before);
     }
 
-    void refreshAnnouncesTheFolderAndRemembersIt()
+    void severalCopiesKeepTheirOrderAmongMediaThatAreMoved()
+    {
+        EngineFixture project;
+        NxEngineFolder *folder = project.addFolder(project.section, QStringLiteral("F"));
+        NxEngineMedia *standing = project.addMedia(project.section, QStringLiteral("standing"));
+        EngineFixture other;
+        QList<INxAbstractMedia *> items;
+        for (const char *name : {"a", "b", "c"})
+            items.append(other.addMedia(other.section, QLatin1String(name)));
+        items.insert(2, standing);
+        items.append(nullptr);
+        const int steps = project.undo->count();
+        QVERIFY(!project.items->addMediaItems(folder, items)); // Nothing is no media.
+        QCOMPARE(listing(folder), QStringLiteral("a b standing c"));
+        QCOMPARE(project.undo->count(), steps + 1);
+        QVERIFY(project.undo->undo());
+        QCOMPARE(listing(folder), QString());
+        QCOMPARE(listing(project.section), QStringLiteral("standing"));
+    }
+
+    void aMediaWhoseAdditionWasUndoneStaysAway()
+    {
+        EngineFixture project;
+        NxEngineMedia *media = project.addMedia(project.section, QStringLiteral("undone"));
+        QVERIFY(project.undo->undo());
+        QVERIFY(!project.items->addMediaItems(project.section, {media}));
+        QCOMPARE(listing(project.section), QString());
+        QVERIFY(project.undo->redo());
+        QCOMPARE(listing(project.section), QStringLiteral("undone"));
+    }
+
+    void refreshRemembersTheFolderAndTellsNothing()
     {
         EngineFixture project;
         NxEngineFolder *folder = project.addFolder(project.section, QStringLiteral("F"));
         EngineEvents events(project.category);
         project.items->refresh(folder);
-        QCOMPARE(events.take(), QStringList(QStringLiteral("all changed F")));
+        QCOMPARE(events.take(), QStringList());
         QCOMPARE(project.items->currentRoot(), folder);
         project.folders->removeFolder(folder);
         QTRY_COMPARE(project.items->currentRoot(), nullptr);

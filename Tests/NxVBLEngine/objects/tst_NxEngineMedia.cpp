@@ -249,7 +249,6 @@ private Q_SLOTS:
         record.created = 1;
         record.modified = -2;
         record.favourite = 3;
-        record.used = 4;
         record.importKind = mitCameraPhone;
         record.kindCode = mkcStockCopy;
 
@@ -266,7 +265,6 @@ private Q_SLOTS:
         QCOMPARE(again.created, record.created);
         QCOMPARE(again.modified, record.modified);
         QCOMPARE(again.favourite, record.favourite);
-        QCOMPARE(again.used, record.used);
         QCOMPARE(again.importKind, record.importKind);
         QCOMPARE(again.kindCode, record.kindCode);
         QVERIFY(!again.alive); // It stands in no folder.

@@ -150,10 +150,12 @@ private Q_SLOTS:
         QVERIFY(project.media->mediaInfo()->frameCount() != other->mediaInfo()->frameCount());
     }
 
-    void anotherFileIsToBeReadAndSoIsTheFirstAfterUndo()
+    void anotherFileIsToBeReadAndTheFirstIsKnownAfterUndo()
     {
         ReadingFixture project;
-        project.memory.setFootage(project.media, NxFootageSamples::full(1));
+        const NxFootageRecord first = NxFootageSamples::full(1);
+        const NxFootageRecord second = NxFootageSamples::full(2);
+        project.memory.setFootage(project.media, first);
         (void)project.takeStored();
         EngineEvents events(project.category);
         QVERIFY(project.items->relinkMedia(project.media, QStringLiteral("/other/b.wav")));
@@ -165,15 +167,27 @@ private Q_SLOTS:
         QCOMPARE(stored.size(), 1);
         QVERIFY(NxFootageRow::of(stored.first()).isBlank());
 
-        for (const auto step : {&NxEngineUndoStack::undo, &NxEngineUndoStack::redo}) {
-            project.memory.setFootage(project.media, NxFootageSamples::full(1));
-            (void)project.takeStored();
-            QVERIFY((project.undo->*step)());
-            QCOMPARE(project.media->readState(), NxReadState::Unread);
-            stored = project.takeStored();
-            QCOMPARE(stored.size(), 1);
-            QVERIFY(NxFootageRow::of(stored.first()).isBlank());
-        }
+        project.memory.setFootage(project.media, second);
+        (void)project.takeStored();
+        QVERIFY(project.undo->undo());
+        QVERIFY(project.media->fingerprint() == first.fingerprint);
+        QCOMPARE(project.media->mediaInfo()->frameCount(), first.facts.frames);
+        stored = project.takeStored();
+        QCOMPARE(stored.size(), 2); // The second file's facts go, the first one's come.
+        QVERIFY(NxFootageRow::of(stored.first()).isBlank());
+        QVERIFY(stored.last().fingerprint == first.fingerprint);
+        QVERIFY(project.undo->redo());
+        QVERIFY(project.media->fingerprint() == second.fingerprint);
+    }
+
+    void aFileOfWhichNothingWasKnownIsToBeReadAfterUndo()
+    {
+        ReadingFixture project;
+        QVERIFY(project.items->relinkMedia(project.media, QStringLiteral("/other/b.wav")));
+        project.memory.setFootage(project.media, NxFootageSamples::full(2));
+        QVERIFY(project.undo->undo());
+        QCOMPARE(project.media->readState(), NxReadState::Unread);
+        QVERIFY(project.media->fingerprint().isNull());
     }
 
     void aFileThatMovedWithItsProjectNeedNotBeReadAgain()

@@ -400,7 +400,7 @@ void tst_NxPictureService::mediaMayGoWhileTheirPictureIsOnItsWay()
         QVERIFY(f.cover(each).isNull());
     const qint64 id = forgotten->id();
     QVERIFY(f.items->removeMediaItems(f.section, {removed, forgotten}));
-    f.memory.forget({id}, {});
+    f.memory.forget({{}, {id}, {}});
     QTRY_VERIFY(!f.memory.media(id));
     QTRY_VERIFY(!f.cover(stays).isNull());
     QCOMPARE(f.view.told, QStringList(QStringLiteral("stays.mp4")));

@@ -50,14 +50,27 @@ QString described(const NxMediaRecord &media)
     return line("media", text(media.id), text(media.category), text(media.folder),
                 text(media.place), text(media.name), text(media.path), text(media.canonicalPath),
                 text(media.relativePath), text(media.size), text(media.created),
-                text(media.modified), text(media.favourite), text(media.used),
-                text(media.importKind), text(media.kindCode), text(media.alive ? 1 : 0));
+                text(media.modified), text(media.favourite), text(media.importKind),
+                text(media.kindCode), text(media.alive ? 1 : 0));
 }
 
 QString described(const NxFolderRecord &folder)
 {
     return line("folder", text(folder.id), text(folder.category), text(folder.parent),
                 text(folder.place), text(folder.name), text(folder.alive ? 1 : 0));
+}
+
+QString described(const NxTimelineRecord &timeline)
+{
+    return line("timeline", text(timeline.id), text(timeline.name), text(timeline.outerClip),
+                text(timeline.alive ? 1 : 0));
+}
+
+QString described(const NxClipRecord &clip)
+{
+    return line("clip", text(clip.id), text(clip.timeline), text(clip.split), text(clip.kind),
+                text(clip.media), text(clip.place.track), text(clip.place.position),
+                text(clip.place.length), text(clip.place.inPoint), text(clip.alive ? 1 : 0));
 }
 
 QString described(const NxChange &change)
@@ -137,7 +150,6 @@ NxMediaRecord StoreSamples::media(qint64 id, int folder)
     record.created = 1'600'000'000'000 + id;
     record.modified = 1'600'000'100'000 + id;
     record.favourite = 1'600'000'200'000 + id;
-    record.used = 3;
     record.importKind = 2;
     record.kindCode = 1;
     return record;
@@ -150,6 +162,34 @@ NxFolderRecord StoreSamples::folder(int id, int parent)
     record.parent = parent;
     record.place = id * 1024LL;
     record.name = QStringLiteral("Folder %1").arg(id);
+    return record;
+}
+
+NxTimelineRecord StoreSamples::timeline(qint64 id, qint64 outerClip)
+{
+    NxTimelineRecord record;
+    record.id = id;
+    record.name = QStringLiteral("Timeline %1").arg(id);
+    record.outerClip = outerClip;
+    return record;
+}
+
+NxClipRecord StoreSamples::clip(qint64 id, qint64 timeline)
+{
+    NxClipRecord record;
+    record.id = id;
+    record.timeline = timeline;
+    record.kind = NXVBLMODEL::ckAudio;
+    record.media = 10 + id;
+    record.place = {2, 100 * id, 50, 7};
+    return record;
+}
+
+NxClipRecord StoreSamples::innerClip(qint64 id, const NxClipRecord &split)
+{
+    NxClipRecord record = clip(id, split.timeline);
+    record.split = split.id;
+    record.place = {0, 0, 0, 3};
     return record;
 }
 
@@ -183,6 +223,8 @@ std::vector<NxStoreBatch> StoreSamples::session()
     counters.nextPlace = 10000;
     counters.nextFolderId = 1010;
     counters.nextStepSerial = 100;
+    counters.nextTimelineId = 20;
+    counters.nextClipId = 30;
     NxStoreBatch first = addMedia(1, 60);
     first.push_back(counters);
     batches.push_back(first);
@@ -199,7 +241,7 @@ std::vector<NxStoreBatch> StoreSamples::session()
     batches.push_back(step(7, title));
     batches.push_back(
         {NxStoreEntry::Apply{change(Kind::FolderRemove, {1002})}, NxStoreEntry::StepPosition{3}});
-    batches.push_back(step(8, change(Kind::MediaUsed, {10}, numbered(12))));
+    batches.push_back(step(8, change(Kind::MediaFavourite, {10}, numbered(12))));
     batches.push_back({NxStoreEntry::StepDrop{{1, 2, 3}, {5, 6, 7, 8}, {1002}}});
     NxMediaRecord facts = media(11);
     facts.size = 99;
@@ -209,6 +251,20 @@ std::vector<NxStoreBatch> StoreSamples::session()
         {NxStoreEntry::Footage{{NxFootageSamples::full(12), NxFootageSamples::full(13, 2),
                                 NxFootageSamples::failed(14)}},
          NxStoreEntry::Footage{{NxFootageSamples::full(15)}}});
+    NxClipRecord composite = clip(2);
+    composite.kind = NXVBLMODEL::ckComposite;
+    composite.media = 0;
+    NxClipRecord split = clip(3);
+    split.kind = NXVBLMODEL::ckSplitScreen;
+    split.media = 0;
+    batches.push_back({NxStoreEntry::NewTimeline{timeline(1)},
+                       NxStoreEntry::NewClips{{clip(1), composite, split, innerClip(4, split)}},
+                       NxStoreEntry::NewTimeline{timeline(2, 2)},
+                       NxStoreEntry::NewClips{{clip(5, 2), clip(6)}}});
+    batches.push_back(step(9, change(Kind::ClipMove, {1}, placed(3, 20))));
+    batches.push_back(step(10, change(Kind::ClipRemove, {6})));
+    batches.push_back(
+        step(11, change(Kind::TimelineRename, {2}, named(QStringLiteral("Opening")))));
     return batches;
 }
 
@@ -225,6 +281,10 @@ QStringList StoreSamples::described(const NxProjectContents &contents)
         lines += line("senseless footage", text(contents.senselessFootage));
     for (const NxResourceRecord &record : contents.resources)
         lines += line("resource", text(record.id), text(record.name), text(record.favourite));
+    for (const NxTimelineRecord &record : contents.timelines)
+        lines += ::described(record);
+    for (const NxClipRecord &record : contents.clips)
+        lines += ::described(record);
     for (const NxUndoRecord &step : contents.undoSteps) {
         lines += line("step", text(step.serial), text(step.function), text(step.action));
         for (const NxChange &change : step.changes)
@@ -233,7 +293,8 @@ QStringList StoreSamples::described(const NxProjectContents &contents)
     const NxStoreEntry::Counters &counters = contents.counters;
     lines += line("meta", text(contents.undoDone), text(counters.nextMediaId),
                   text(counters.nextPlace), text(counters.nextFolderId),
-                  text(counters.nextStepSerial), text(contents.projectFolder));
+                  text(counters.nextStepSerial), text(counters.nextTimelineId),
+                  text(counters.nextClipId), text(contents.projectFolder));
     if (!contents.damage.isEmpty())
         lines += contents.damage;
     return lines;

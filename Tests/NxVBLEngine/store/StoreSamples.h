@@ -15,6 +15,11 @@ namespace StoreSamples {
 /// A media with a value in every field that differs from the default.
 [[nodiscard]] NxMediaRecord media(qint64 id, int folder = 1);
 [[nodiscard]] NxFolderRecord folder(int id, int parent = 1);
+[[nodiscard]] NxTimelineRecord timeline(qint64 id, qint64 outerClip = 0);
+/// A clip of a media, beside those of lower ids.
+[[nodiscard]] NxClipRecord clip(qint64 id, qint64 timeline = 1);
+/// A clip inside a split screen.
+[[nodiscard]] NxClipRecord innerClip(qint64 id, const NxClipRecord &split);
 [[nodiscard]] NxChange change(NxChangeKind kind, const QVector<qint64> &ids,
                               const NxChangeState &after = {});
 /// A batch that adds `count` media, ids ascending from `firstId`.

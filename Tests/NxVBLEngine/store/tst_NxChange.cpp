@@ -39,6 +39,10 @@ private Q_SLOTS:
     void damagedStatesAreRefused();
     void theInverseTakesAChangeBack();
     void invertingTwiceIsTheChangeItself();
+    void everyKindIsAboutOneObject_data();
+    void everyKindIsAboutOneObject();
+    void numbersThatStandForNothingAreNoKinds_data();
+    void numbersThatStandForNothingAreNoKinds();
 };
 
 void tst_NxChange::idsComeBackAsTheyWere_data()
@@ -151,8 +155,9 @@ void tst_NxChange::theInverseTakesAChangeBack()
 
 void tst_NxChange::invertingTwiceIsTheChangeItself()
 {
-    for (int kind = int(NxChangeKind::FolderAdd); kind <= int(NxChangeKind::ResourceFavourite);
-         ++kind) {
+    for (int kind = int(NxChangeKind::FolderAdd); kind <= int(NxChangeKind::ClipMove); ++kind) {
+        if (!isChangeKind(kind))
+            continue;
         NxChange change;
         change.what = NxChangeKind(kind);
         change.ids = {4, 5};
@@ -163,6 +168,57 @@ void tst_NxChange::invertingTwiceIsTheChangeItself()
         QVERIFY(back.before == change.before);
         QVERIFY(back.after == change.after);
     }
+}
+
+void tst_NxChange::everyKindIsAboutOneObject_data()
+{
+    QTest::addColumn<int>("kind");
+    QTest::addColumn<int>("object");
+    QTest::addColumn<int>("opposite");
+    using Kind = NxChangeKind;
+    const auto row = [](const char *name, Kind kind, NxObjectKind object, Kind opposite) {
+        QTest::newRow(name) << int(kind) << int(object) << int(opposite);
+    };
+    row("folder added", Kind::FolderAdd, NxObjectKind::Folder, Kind::FolderRemove);
+    row("folder removed", Kind::FolderRemove, NxObjectKind::Folder, Kind::FolderAdd);
+    row("folder moved", Kind::FolderMove, NxObjectKind::Folder, Kind::FolderMove);
+    row("media added", Kind::MediaAdd, NxObjectKind::Media, Kind::MediaRemove);
+    row("media relinked", Kind::MediaRelink, NxObjectKind::Media, Kind::MediaRelink);
+    row("resource", Kind::ResourceRename, NxObjectKind::Resource, Kind::ResourceRename);
+    row("timeline added", Kind::TimelineAdd, NxObjectKind::Timeline, Kind::TimelineRemove);
+    row("timeline removed", Kind::TimelineRemove, NxObjectKind::Timeline, Kind::TimelineAdd);
+    row("timeline renamed", Kind::TimelineRename, NxObjectKind::Timeline, Kind::TimelineRename);
+    row("clip added", Kind::ClipAdd, NxObjectKind::Clip, Kind::ClipRemove);
+    row("clip removed", Kind::ClipRemove, NxObjectKind::Clip, Kind::ClipAdd);
+    row("clip moved", Kind::ClipMove, NxObjectKind::Clip, Kind::ClipMove);
+}
+
+void tst_NxChange::everyKindIsAboutOneObject()
+{
+    QFETCH(int, kind);
+    QFETCH(int, opposite);
+    NxChange change;
+    change.what = NxChangeKind(kind);
+    QTEST(int(objectOf(change.what)), "object");
+    QCOMPARE(int(inverted(change).what), opposite);
+    QCOMPARE(isAddOrRemoval(change.what), kind != opposite);
+}
+
+void tst_NxChange::numbersThatStandForNothingAreNoKinds_data()
+{
+    QTest::addColumn<int>("value");
+    QTest::addColumn<bool>("isKind");
+    for (const int value : {0, 11, 20, -1})
+        QTest::addRow("%d", value) << value << false;
+    for (const int value : {1, 10, 12, 14, 19})
+        QTest::addRow("%d", value) << value << true;
+}
+
+void tst_NxChange::numbersThatStandForNothingAreNoKinds()
+{
+    QFETCH(int, value);
+    QTEST(isChangeKind(value), "isKind");
+    QVERIFY(!isAddOrRemoval(NxChangeKind(11)));
 }
 
 NX_TEST_MAIN(tst_NxChange)

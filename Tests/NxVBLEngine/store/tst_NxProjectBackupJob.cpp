@@ -114,10 +114,10 @@ void tst_NxProjectBackupJob::changedContentsAreKeptAgain()
     QCOMPARE(kept.size(), 2);
     QCOMPARE(contentsOf(m_backups + QLatin1Char('/') + kept.constLast()), contentsOf(m_path));
     // A change that leaves the size as it is counts, too.
-    NxChangeState used;
-    used.number = 4;
-    QVERIFY(
-        openAt(Birth + 4 * Day, {NxStoreEntry::Apply{change(NxChangeKind::MediaUsed, {1}, used)}}));
+    NxChangeState marked;
+    marked.number = 4;
+    QVERIFY(openAt(Birth + 4 * Day,
+                   {NxStoreEntry::Apply{change(NxChangeKind::MediaFavourite, {1}, marked)}}));
     QVERIFY(openAt(Birth + 5 * Day));
     QCOMPARE(backups().size(), 3);
 }

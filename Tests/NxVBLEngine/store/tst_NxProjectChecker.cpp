@@ -18,6 +18,8 @@ private Q_SLOTS:
     void aSoundProjectHasNoProblems();
     void findsWhatDoesNotFit_data();
     void findsWhatDoesNotFit();
+    void whatMayBeIsNoFault_data();
+    void whatMayBeIsNoFault();
     void findsTheSameNumberTwice();
     void findsAPageThatIsBroken();
     void checksAProjectThatIsBeingWritten();
@@ -44,11 +46,24 @@ void tst_NxProjectChecker::init()
     counters.nextPlace = 10000;
     counters.nextFolderId = 1010;
     counters.nextStepSerial = 9;
+    counters.nextTimelineId = 4;
+    counters.nextClipId = 8;
+    NxClipRecord composite = clip(2);
+    composite.kind = NXVBLMODEL::ckComposite;
+    NxClipRecord split = clip(3);
+    split.kind = NXVBLMODEL::ckSplitScreen;
     makeProject(m_path,
                 {addMedia(1, 20),
                  {NxStoreEntry::NewFolder{folder(1001)}, NxStoreEntry::NewFolder{folder(1002)},
                   NxStoreEntry::NewFolder{folder(1003, 1002)}},
+                 {NxStoreEntry::NewTimeline{timeline(1)}, NxStoreEntry::NewTimeline{timeline(2, 2)},
+                  NxStoreEntry::NewTimeline{timeline(3)},
+                  NxStoreEntry::NewClips{{clip(1), composite, split, innerClip(4, split),
+                                          clip(5, 2), clip(6, 3), clip(7, 3)}}},
                  {NxStoreEntry::StepBegin{8, {}, {}},
+                  NxStoreEntry::StepChange{8, change(NxChangeKind::ClipRemove, {6})},
+                  NxStoreEntry::StepChange{8, change(NxChangeKind::TimelineRename, {3})},
+                  NxStoreEntry::Apply{change(NxChangeKind::ClipRemove, {6})},
                   NxStoreEntry::StepChange{8, change(NxChangeKind::MediaRemove, {4, 5})},
                   NxStoreEntry::StepChange{8, change(NxChangeKind::FolderRemove, {1001})},
                   NxStoreEntry::Apply{change(NxChangeKind::MediaRemove, {4, 5})}},
@@ -97,6 +112,53 @@ void tst_NxProjectChecker::findsWhatDoesNotFit_data()
     QTest::newRow("undo of a folder that is gone")
         << QByteArray("DELETE FROM folder WHERE id = 1001")
         << QStringLiteral("undo step 8 names what is not there");
+    QTest::newRow("clip on no timeline")
+        << QByteArray("UPDATE clip SET timeline = 99 WHERE id = 1")
+        << QStringLiteral("clip 1 stands on a timeline that is not there");
+    QTest::newRow("clip on a removed timeline")
+        << QByteArray("UPDATE timeline SET alive = 0 WHERE id = 3")
+        << QStringLiteral("clip 7 stands on a timeline that is not there");
+    QTest::newRow("inside a clip that is gone")
+        << QByteArray("DELETE FROM clip WHERE id = 3")
+        << QStringLiteral("clip 4 stands inside what is no split screen");
+    QTest::newRow("inside a clip of another kind")
+        << QByteArray("UPDATE clip SET kind = 1 WHERE id = 3")
+        << QStringLiteral("clip 4 stands inside what is no split screen");
+    QTest::newRow("inside a removed split screen")
+        << QByteArray("UPDATE clip SET alive = 0 WHERE id = 3")
+        << QStringLiteral("clip 4 stands inside what is no split screen");
+    QTest::newRow("inside a split screen of another timeline")
+        << QByteArray("UPDATE clip SET timeline = 3 WHERE id = 4")
+        << QStringLiteral("clip 4 stands inside what is no split screen");
+    QTest::newRow("timeline whose clip is gone")
+        << QByteArray("DELETE FROM clip WHERE id = 2")
+        << QStringLiteral("timeline 2 stands for a clip that is not there");
+    QTest::newRow("timeline whose clip is removed")
+        << QByteArray("UPDATE clip SET alive = 0 WHERE id = 2")
+        << QStringLiteral("timeline 2 stands for a clip that is not there");
+    QTest::newRow("timeline whose clip is of another kind")
+        << QByteArray("UPDATE timeline SET outer_clip = 1 WHERE id = 2")
+        << QStringLiteral("timeline 2 stands for a clip that is not there");
+    QTest::newRow("timeline on itself") << QByteArray("UPDATE clip SET timeline = 2 WHERE id = 2")
+                                        << QStringLiteral("timeline 2 stands on itself");
+    QTest::newRow("clip whose timeline is gone")
+        << QByteArray("DELETE FROM timeline WHERE id = 2")
+        << QStringLiteral("clip 2 stands for a timeline that is not there");
+    QTest::newRow("clips that cover each other")
+        << QByteArray("UPDATE clip SET position = 149 WHERE id = 3")
+        << QStringLiteral("clips 1 and 3 cover each other");
+    QTest::newRow("timeline number too high")
+        << QByteArray("UPDATE meta SET value = 3 WHERE key = 'next_timeline_id'")
+        << QStringLiteral("the number of timeline 3 would be given out again");
+    QTest::newRow("clip number too high")
+        << QByteArray("UPDATE meta SET value = 7 WHERE key = 'next_clip_id'")
+        << QStringLiteral("the number of clip 7 would be given out again");
+    QTest::newRow("undo of a clip that is gone")
+        << QByteArray("DELETE FROM clip WHERE id = 6")
+        << QStringLiteral("undo step 8 names what is not there");
+    QTest::newRow("undo of a timeline that is gone")
+        << QByteArray("DELETE FROM timeline WHERE id = 3")
+        << QStringLiteral("undo step 8 names what is not there");
     QTest::newRow("a change of no step")
         << QByteArray("DELETE FROM undo_step")
         << QStringLiteral("a change belongs to undo step 8, which is not there");
@@ -119,10 +181,32 @@ void tst_NxProjectChecker::findsWhatDoesNotFit()
     QVERIFY2(problems().contains(problem), qUtf8Printable(problems().join(QLatin1Char('\n'))));
 }
 
+void tst_NxProjectChecker::whatMayBeIsNoFault_data()
+{
+    QTest::addColumn<QByteArray>("sql");
+    QTest::newRow("a clip of a media that is gone")
+        << QByteArray("UPDATE clip SET media = 4711 WHERE id = 1");
+    QTest::newRow("clips that touch") << QByteArray("UPDATE clip SET position = 150 WHERE id = 3");
+    QTest::newRow("a clip on another track")
+        << QByteArray("UPDATE clip SET position = 120, track = 3 WHERE id = 3");
+    QTest::newRow("where a removed clip stood")
+        << QByteArray("UPDATE clip SET position = 600 WHERE id = 7");
+}
+
+void tst_NxProjectChecker::whatMayBeIsNoFault()
+{
+    QFETCH(QByteArray, sql);
+    runSql(m_path, sql);
+    QCOMPARE(problems(), QStringList());
+}
+
 void tst_NxProjectChecker::findsTheSameNumberTwice()
 {
     NxProjectContents contents;
-    contents.counters = {1000, 10000, 2000, 5};
+    contents.counters = {1000, 10000, 2000, 5, 9, 9};
+    contents.timelines = {timeline(4), timeline(4)};
+    contents.clips = {clip(5, 4), clip(5, 4)};
+    contents.clips[1].place.track = 0;
     contents.media = {media(3), media(3)};
     contents.media[1].path = QStringLiteral("/other");
     contents.folders = {folder(1001), folder(1001)};
@@ -130,7 +214,9 @@ void tst_NxProjectChecker::findsTheSameNumberTwice()
     const QStringList found = NxProjectChecker::problemsOf(contents);
     QVERIFY(found.contains(QLatin1String("media 3 is there twice")));
     QVERIFY(found.contains(QLatin1String("folder 1001 is there twice")));
-    QCOMPARE(found.size(), 2);
+    QVERIFY(found.contains(QLatin1String("timeline 4 is there twice")));
+    QVERIFY(found.contains(QLatin1String("clip 5 is there twice")));
+    QCOMPARE(found.size(), 4);
 }
 
 void tst_NxProjectChecker::findsAPageThatIsBroken()

@@ -19,6 +19,7 @@ private Q_SLOTS:
     void impossibleRowsAreLeftOutAndCounted_data();
     void impossibleRowsAreLeftOutAndCounted();
     void anImpossiblePlaceAmongTheStepsIsDamage();
+    void lostCountersAreDamage_data();
     void lostCountersAreDamage();
     void whatIsKnownToBeWrongIsTold();
 
@@ -54,15 +55,33 @@ void tst_NxProjectReader::impossibleRowsAreLeftOutAndCounted_data()
              "UPDATE media SET category = -1 WHERE id = 20",
              "UPDATE media SET folder = -3 WHERE id = 20",
              "UPDATE media SET folder = 5000000000 WHERE id = 20",
-             "UPDATE media SET used = 5000000000 WHERE id = 20",
              "UPDATE media SET size = -2 WHERE id = 20",
              "UPDATE media SET alive = 2 WHERE id = 20",
              "UPDATE folder SET id = 0 WHERE id = 1001",
              "UPDATE folder SET id = 5000000000 WHERE id = 1001",
              "UPDATE folder SET parent = -1 WHERE id = 1001",
+             "UPDATE timeline SET id = 0 WHERE id = 2",
+             "UPDATE timeline SET outer_clip = -1 WHERE id = 2",
+             "UPDATE timeline SET alive = 2 WHERE id = 2",
+             "UPDATE clip SET id = -5 WHERE id = 1",
+             "UPDATE clip SET timeline = 0 WHERE id = 1",
+             "UPDATE clip SET split = -1 WHERE id = 4",
+             "UPDATE clip SET kind = 5 WHERE id = 1",
+             "UPDATE clip SET kind = -1 WHERE id = 1",
+             "UPDATE clip SET media = -1 WHERE id = 1",
+             "UPDATE clip SET track = -1 WHERE id = 1",
+             "UPDATE clip SET track = 2147483647 WHERE id = 1",
+             "UPDATE clip SET track = 5000000000 WHERE id = 1",
+             "UPDATE clip SET position = -1 WHERE id = 1",
+             "UPDATE clip SET position = 9223372036854775800 WHERE id = 1",
+             "UPDATE clip SET length = 0 WHERE id = 1",
+             "UPDATE clip SET in_point = -1 WHERE id = 1",
+             "UPDATE clip SET in_point = -1 WHERE id = 4",
+             "UPDATE clip SET alive = 2 WHERE id = 1",
              "UPDATE undo_step SET serial = -1 WHERE serial = 8",
              "UPDATE undo_change SET kind = 0 WHERE step = 8",
-             "UPDATE undo_change SET kind = 14 WHERE step = 8",
+             "UPDATE undo_change SET kind = 11 WHERE step = 8",
+             "UPDATE undo_change SET kind = 20 WHERE step = 8",
              "UPDATE undo_change SET ids = x'ff' WHERE step = 8",
              "UPDATE undo_change SET after = x'ff' WHERE step = 8",
              "UPDATE undo_change SET step = 99 WHERE step = 8",
@@ -90,9 +109,18 @@ void tst_NxProjectReader::anImpossiblePlaceAmongTheStepsIsDamage()
     QCOMPARE(contents.undoDone, int(contents.undoSteps.size()));
 }
 
+void tst_NxProjectReader::lostCountersAreDamage_data()
+{
+    QTest::addColumn<QByteArray>("key");
+    for (const char *key : {"next_media_id", "next_place", "next_folder_id", "next_step_serial",
+                            "next_timeline_id", "next_clip_id"})
+        QTest::newRow(key) << QByteArray(key);
+}
+
 void tst_NxProjectReader::lostCountersAreDamage()
 {
-    runSql(m_path, "DELETE FROM meta WHERE key = 'next_media_id'");
+    QFETCH(QByteArray, key);
+    runSql(m_path, "DELETE FROM meta WHERE key = '" + key + '\'');
     QVERIFY(!read().damage.isEmpty());
 }
 

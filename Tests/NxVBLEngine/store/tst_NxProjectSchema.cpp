@@ -100,7 +100,7 @@ void tst_NxProjectSchema::aNewerFileIsRefused()
     QCOMPARE(
         done.errorText(),
         m_database->path()
-            + QStringLiteral(": was made by a newer version (schema 7, this program knows 2)"));
+            + QStringLiteral(": was made by a newer version (schema 7, this program knows 3)"));
 }
 
 NX_TEST_MAIN(tst_NxProjectSchema)

@@ -123,7 +123,7 @@ void tst_NxProjectSource::whatIsNoProjectIsRefusedAndLeftAlone_data()
         << QStringLiteral("is not a Brevano project: it is a database of another program");
     QTest::newRow("a newer version")
         << withVersion(m_sample, 7)
-        << QStringLiteral("was made by a newer version (schema 7, this program knows 2)");
+        << QStringLiteral("was made by a newer version (schema 7, this program knows 3)");
     QTest::newRow("nothing but the header")
         << m_sample.left(100) << QStringLiteral("is damaged: its structure cannot be read");
     QByteArray noSchema = m_sample;

@@ -45,6 +45,7 @@ const NxMediaRecord *mediaOf(const NxProjectContents &contents, qint64 id)
 Q_DECLARE_METATYPE(Prove)
 Q_DECLARE_METATYPE(NxChange)
 Q_DECLARE_METATYPE(NxMediaRecord)
+Q_DECLARE_METATYPE(NxClipRecord)
 
 class tst_NxProjectWriter : public QObject
 {
@@ -54,6 +55,9 @@ private Q_SLOTS:
     void everyFieldOfAMediaComesBack_data();
     void everyFieldOfAMediaComesBack();
     void everyFieldOfAFolderComesBack();
+    void everyFieldOfATimelineComesBack();
+    void everyFieldOfAClipComesBack_data();
+    void everyFieldOfAClipComesBack();
     void aChangeUpdatesItsRow_data();
     void aChangeUpdatesItsRow();
     void aChangeOfWhatIsNotThereFails_data();
@@ -105,12 +109,12 @@ void tst_NxProjectWriter::everyFieldOfAMediaComesBack_data()
     high.category = 10;
     high.folder = std::numeric_limits<int>::max();
     high.place = high.size = high.created = high.modified = high.favourite = Highest;
-    high.used = high.importKind = high.kindCode = std::numeric_limits<int>::max();
+    high.importKind = high.kindCode = std::numeric_limits<int>::max();
     QTest::newRow("highest values") << high;
     NxMediaRecord low = plain;
     low.place = Lowest;
     low.created = low.modified = low.favourite = Lowest + 1;
-    low.used = low.importKind = low.kindCode = std::numeric_limits<int>::min();
+    low.importKind = low.kindCode = std::numeric_limits<int>::min();
     low.alive = false;
     QTest::newRow("lowest values, dead") << low;
     NxMediaRecord odd = plain;
@@ -142,6 +146,46 @@ void tst_NxProjectWriter::everyFieldOfAFolderComesBack()
         {NxStoreEntry::NewFolder{folder}, NxStoreEntry::NewFolder{StoreSamples::folder(1001)}}));
     NxProjectContents expected;
     expected.folders = {StoreSamples::folder(1001), folder};
+    expected.projectFolder = QStringLiteral("/projects");
+    QCOMPARE(described(read()), described(expected));
+}
+
+void tst_NxProjectWriter::everyFieldOfATimelineComesBack()
+{
+    NxTimelineRecord odd = timeline(Highest, Highest);
+    odd.name = QString(QChar(0xDFFF)) + QStringLiteral("\n\u20ac");
+    odd.alive = false;
+    QVERIFY(write({NxStoreEntry::NewTimeline{odd}, NxStoreEntry::NewTimeline{timeline(1)}}));
+    NxProjectContents expected;
+    expected.timelines = {timeline(1), odd};
+    expected.projectFolder = QStringLiteral("/projects");
+    QCOMPARE(described(read()), described(expected));
+}
+
+void tst_NxProjectWriter::everyFieldOfAClipComesBack_data()
+{
+    QTest::addColumn<NxClipRecord>("record");
+    QTest::newRow("a value in every field") << clip(5, 9);
+    QTest::newRow("inside a split screen") << innerClip(5, clip(3));
+    NxClipRecord high = clip(Highest, Highest);
+    high.media = high.split = Highest;
+    high.kind = NXVBLMODEL::ckComposite;
+    high.place = {std::numeric_limits<int>::max() - 1, Highest - 8, 8, Highest};
+    high.alive = false;
+    QTest::newRow("highest values, dead") << high;
+    NxClipRecord low = clip(1);
+    low.kind = NXVBLMODEL::ckUnknown;
+    low.media = 0;
+    low.place = {0, 0, 1, 0};
+    QTest::newRow("lowest values") << low;
+}
+
+void tst_NxProjectWriter::everyFieldOfAClipComesBack()
+{
+    QFETCH(NxClipRecord, record);
+    QVERIFY(write({NxStoreEntry::NewClips{{record}}}));
+    NxProjectContents expected;
+    expected.clips = {record};
     expected.projectFolder = QStringLiteral("/projects");
     QCOMPARE(described(read()), described(expected));
 }
@@ -178,8 +222,6 @@ void tst_NxProjectWriter::aChangeUpdatesItsRow_data()
             return media->path == name && media->canonicalPath == QLatin1String("c")
                    && media->relativePath.isEmpty();
         });
-    row("media used", change(Kind::MediaUsed, {2}, state(0, 0, {}, {}, 8)),
-        [](const auto &is) { return mediaOf(is, 2)->used == 8; });
     row("resource renamed", change(Kind::ResourceRename, {-5}, state(0, 0, name)),
         [name](const auto &is) {
             return is.resources.size() == 1 && is.resources[0].id == -5
@@ -190,6 +232,19 @@ void tst_NxProjectWriter::aChangeUpdatesItsRow_data()
             return is.resources.size() == 1 && is.resources[0].name.isEmpty()
                    && is.resources[0].favourite == 0;
         });
+    row("timeline removed", change(Kind::TimelineRemove, {2}),
+        [](const auto &is) { return is.timelines[0].alive && !is.timelines[1].alive; });
+    row("timeline renamed", change(Kind::TimelineRename, {2}, state(0, 0, name)),
+        [name](const auto &is) {
+            return is.timelines[1].name == name && is.timelines[0].name != name;
+        });
+    row("clips removed", change(Kind::ClipRemove, {1, 3}, state(0, 0, {}, {}, 9)),
+        [](const auto &is) {
+            return !is.clips[0].alive && is.clips[1].alive && !is.clips[2].alive;
+        });
+    row("clip moved", change(Kind::ClipMove, {2}, state(5, 900)), [](const auto &is) {
+        return is.clips[1].place == NxClipPlace{5, 900, 50, 7} && is.clips[0].place.track == 2;
+    });
 }
 
 void tst_NxProjectWriter::aChangeUpdatesItsRow()
@@ -198,13 +253,14 @@ void tst_NxProjectWriter::aChangeUpdatesItsRow()
     QFETCH(Prove, prove);
     QVERIFY(write(addMedia(1, 3)));
     QVERIFY(write({NxStoreEntry::NewFolder{folder(1001)}, NxStoreEntry::NewFolder{folder(1002)}}));
+    QVERIFY(write({NxStoreEntry::NewTimeline{timeline(1)}, NxStoreEntry::NewTimeline{timeline(2)},
+                   NxStoreEntry::NewClips{{clip(1), clip(2), clip(3)}}}));
     QVERIFY(!prove(read()));
     const NxResult<void> written = write({NxStoreEntry::Apply{applied}});
     QVERIFY2(written, qUtf8Printable(written.errorText()));
     QVERIFY(prove(read()));
 
-    const bool isRemoval = applied.what == Kind::FolderRemove || applied.what == Kind::MediaRemove;
-    if (isRemoval) {
+    if (isAddOrRemoval(applied.what)) {
         QVERIFY(write({NxStoreEntry::Apply{inverted(applied)}}));
         QVERIFY(!prove(read()));
     }
@@ -213,8 +269,10 @@ void tst_NxProjectWriter::aChangeUpdatesItsRow()
 void tst_NxProjectWriter::aChangeOfWhatIsNotThereFails_data()
 {
     QTest::addColumn<int>("kind");
-    for (int kind = int(Kind::FolderAdd); kind <= int(Kind::MediaUsed); ++kind)
-        QTest::addRow("kind %d", kind) << kind;
+    for (int kind = int(Kind::FolderAdd); kind <= int(Kind::ClipMove); ++kind) {
+        if (isChangeKind(kind) && objectOf(Kind(kind)) != NxObjectKind::Resource)
+            QTest::addRow("kind %d", kind) << kind;
+    }
 }
 
 void tst_NxProjectWriter::aChangeOfWhatIsNotThereFails()
@@ -315,8 +373,14 @@ void tst_NxProjectWriter::droppingStepsDeletesWhatOnlyTheyKept()
                    NxStoreEntry::StepChange{1, change(Kind::MediaRemove, {2, 3})},
                    NxStoreEntry::Apply{change(Kind::MediaRemove, {2, 3})},
                    NxStoreEntry::Apply{change(Kind::FolderRemove, {1001})}}));
-    QVERIFY(write({NxStoreEntry::StepDrop{{1}, {2, 3}, {1001}}}));
+    QVERIFY(write({NxStoreEntry::NewTimeline{timeline(1)}, NxStoreEntry::NewTimeline{timeline(2)},
+                   NxStoreEntry::NewClips{{clip(1), clip(2), clip(3)}},
+                   NxStoreEntry::Apply{change(Kind::ClipRemove, {1, 2})},
+                   NxStoreEntry::Apply{change(Kind::TimelineRemove, {2})}}));
+    QVERIFY(write({NxStoreEntry::StepDrop{{1}, {2, 3}, {1001}, {2}, {1, 2}}}));
     const NxProjectContents contents = read();
+    QCOMPARE(int(contents.timelines.size()), 1);
+    QCOMPARE(int(contents.clips.size()), 1);
     QCOMPARE(int(contents.media.size()), 2);
     QVERIFY(contents.folders.empty());
     QVERIFY(contents.undoSteps.empty());
@@ -328,7 +392,10 @@ void tst_NxProjectWriter::droppingNeverDeletesTheLiving()
 {
     QVERIFY(write(addMedia(1, 1)));
     QVERIFY(write({NxStoreEntry::NewFolder{folder(1001)}}));
-    QVERIFY(write({NxStoreEntry::StepDrop{{}, {1}, {1001}}}));
+    QVERIFY(write({NxStoreEntry::NewTimeline{timeline(1)}, NxStoreEntry::NewClips{{clip(1)}}}));
+    QVERIFY(write({NxStoreEntry::StepDrop{{}, {1}, {1001}, {1}, {1}}}));
+    QCOMPARE(int(read().timelines.size()), 1);
+    QCOMPARE(int(read().clips.size()), 1);
     QCOMPARE(int(read().media.size()), 1);
     QCOMPARE(int(read().folders.size()), 1);
 }
@@ -350,12 +417,16 @@ void tst_NxProjectWriter::countersComeBack()
     counters.nextPlace = Highest - 1;
     counters.nextFolderId = std::numeric_limits<int>::max();
     counters.nextStepSerial = Highest - 2;
+    counters.nextTimelineId = Highest - 3;
+    counters.nextClipId = Highest - 4;
     QVERIFY(write({counters}));
     const NxStoreEntry::Counters back = read().counters;
     QCOMPARE(back.nextMediaId, counters.nextMediaId);
     QCOMPARE(back.nextPlace, counters.nextPlace);
     QCOMPARE(back.nextFolderId, counters.nextFolderId);
     QCOMPARE(back.nextStepSerial, counters.nextStepSerial);
+    QCOMPARE(back.nextTimelineId, counters.nextTimelineId);
+    QCOMPARE(back.nextClipId, counters.nextClipId);
 }
 
 void tst_NxProjectWriter::mediaAreReadInTheOrderTheyAreListed()
