@@ -159,6 +159,7 @@ private:
     [[nodiscard]] bool canChangeInPlace() const;
     [[nodiscard]] bool appendInPlace(INxAbstractMedia *item);
     [[nodiscard]] bool settle();
+    [[nodiscard]] bool findLast(quint32 *number);
     [[nodiscard]] bool findChanged(std::vector<quint32> *numbers) const;
     void show(quint32 number);
     void insertHead(int section, int row);

@@ -93,8 +93,10 @@ void NMediaItemData::appended(INxAbstractMedia *item)
     const bool isLast = !arranged.isEmpty() && arranged.last() == item;
     if (!isLast && lacks(item))
         updateMediaItems();
-    else if (!isLast || !m_folder || m_folder->lastMedia(true) != item)
+    else if (!isLast || !m_folder)
         m_arrangement->setListingMoved();
+    else if (m_folder->lastMedia(true) != item)
+        m_arrangement->setLastMoved();
 }
 
 void NMediaItemData::listingChanged()
@@ -107,25 +109,25 @@ void NMediaItemData::listingChanged()
 // the folder knows only after the event: one that an undo brought back, or in a folder further in.
 bool NMediaItemData::settle()
 {
-    Items now;
     quint32 listed = NxMediaItemArrangement::NoNumber;
-    if (m_arrangement->isListingMoved()) {
-        now = listing();
-        listed = m_arrangement->listedNumberOfLast(now);
-        if (listed == NxMediaItemArrangement::NoNumber)
-            return false;
-    }
+    if (!findLast(&listed))
+        return false;
     std::vector<quint32> wrong;
     if (!findChanged(&wrong))
         return false;
     const quint32 last = quint32(m_arrangement->media().size()) - 1;
-    const bool isMoved = !now.isEmpty() && listed != last;
+    const bool isMoved = listed != NxMediaItemArrangement::NoNumber && listed != last;
+    if (isMoved && wrong.empty() && !m_arrangement->hasEqualNeighbour(last)) {
+        m_arrangement->renumberLast(listed); // Its number decides nothing.
+        m_arrangement->setSettled();
+        return !m_arrangement->hasBareSection();
+    }
     if (isMoved && std::find(wrong.begin(), wrong.end(), last) == wrong.end())
         wrong.push_back(last);
     for (const quint32 number : wrong) // All of them: no list with wrong places can be searched.
         hide(m_arrangement->placeOf(number));
     if (isMoved)
-        m_arrangement->renumberLast(listed, now);
+        m_arrangement->renumberLast(listed);
     for (quint32 number : wrong) {
         if (isMoved)
             number = number == last ? listed : number >= listed ? number + 1 : number;
@@ -135,6 +137,25 @@ bool NMediaItemData::settle()
     }
     m_arrangement->setSettled();
     return !m_arrangement->hasBareSection();
+}
+
+/// The number that the media appended last has in the folder's listing; NoNumber when it has its
+/// place. False when the listings differ in more.
+bool NMediaItemData::findLast(quint32 *number)
+{
+    if (m_arrangement->isListingMoved()) {
+        *number = m_arrangement->listedNumberOfLast(listing());
+        return *number != NxMediaItemArrangement::NoNumber;
+    }
+    if (!m_arrangement->isLastMoved())
+        return true;
+    m_arrangement->closeHoles();
+    const Items &arranged = m_arrangement->media();
+    if (arranged.isEmpty() || !m_folder)
+        return false;
+    const int place = m_folder->listedPlace(arranged.last(), true);
+    *number = quint32(place);
+    return place >= 0 && place < arranged.size();
 }
 
 /// The numbers of the media that changed; false when that is better left to a whole pass.

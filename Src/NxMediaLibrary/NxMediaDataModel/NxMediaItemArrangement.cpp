@@ -5,6 +5,8 @@
 #include "NxMediaGroupKey_p.h"
 #include "NxMediaItemGrouping_p.h"
 
+#include <QSet>
+
 #include <algorithm>
 
 using namespace NXMEDIALIBRARY;
@@ -49,6 +51,7 @@ void NxMediaItemArrangement::release()
         return clear(); // Groups list their members themselves.
     Numbers().swap(m_order);
     Numbers().swap(m_unordered);
+    m_insertedSince.clear();
     Numbers().swap(m_groupOf);
     m_hasOrder = false;
     m_hasGroups = false;
@@ -63,9 +66,11 @@ void NxMediaItemArrangement::setMedia(const Items &media, bool areChangesTold)
         m_hasOrder = false;
         m_hasGroups = false;
         m_unordered.clear();
+        m_insertedSince.clear();
     }
     m_changes.clear();
     m_isListingMoved = false;
+    m_isLastMoved = false;
     m_isKnown = true;
     m_media = media;
     m_sections.clear();
@@ -75,6 +80,7 @@ void NxMediaItemArrangement::closeHoles()
 {
     if (m_holes == 0)
         return;
+    renumberOrder();
     Numbers renumbered(size_t(m_media.size()), NoNumber);
     Items closed;
     closed.reserve(m_media.size() - m_holes);
@@ -126,11 +132,33 @@ void NxMediaItemArrangement::order(const Sort &sort)
     if (!m_hasOrder || sort != m_sort || m_unordered.size() > m_order.size() / FewUnordered) {
         m_order = NxMediaItemOrdering(sort).places(m_media);
         m_unordered.clear();
+        m_insertedSince.clear();
     }
+    renumberOrder();
     m_hasOrder = true;
     m_sort = sort;
     if (!m_unordered.empty())
         placeUnordered();
+    m_isLastOrdered = true;
+}
+
+// What was inserted since left all others in their order, so these count on around it.
+void NxMediaItemArrangement::renumberOrder()
+{
+    if (m_insertedSince.isEmpty())
+        return;
+    const QSet<INxAbstractMedia *> inserted(m_insertedSince.begin(), m_insertedSince.end());
+    m_insertedSince.clear();
+    Numbers renumbered;
+    renumbered.reserve(size_t(m_media.size()));
+    for (int i = 0; i < m_media.size(); ++i) {
+        if (!inserted.contains(m_media[i]))
+            renumbered.push_back(quint32(i));
+    }
+    for (quint32 &number : m_order) {
+        Q_ASSERT(number < renumbered.size());
+        number = renumbered[number];
+    }
 }
 
 void NxMediaItemArrangement::placeUnordered()
@@ -200,6 +228,7 @@ quint32 NxMediaItemArrangement::append(INxAbstractMedia *media)
 {
     const quint32 number = quint32(m_media.size());
     m_media.append(media);
+    m_isLastOrdered = false;
     m_hasGroups = false;
     if (m_hasOrder)
         m_unordered.push_back(number);
@@ -291,6 +320,7 @@ void NxMediaItemArrangement::hide(const Place &place)
 
 void NxMediaItemArrangement::remove(quint32 number)
 {
+    renumberOrder(); // A hole tells not who stood there.
     m_hasGroups = false;
     m_changes.removeAll(m_media.at(int(number)));
     m_media[int(number)] = nullptr;
@@ -310,6 +340,20 @@ void NxMediaItemArrangement::noteChange(INxAbstractMedia *media)
         m_changes.append(media);
 }
 
+bool NxMediaItemArrangement::hasEqualNeighbour(quint32 number) const
+{
+    const Place place = placeOf(number);
+    if (place.section < 0)
+        return false;
+    const Numbers &shown = m_sections[size_t(place.section)].shown;
+    const NxMediaItemOrdering ordering(m_sort);
+    const auto isEqual = [&](size_t at) {
+        return ordering.compare(m_media.at(int(shown[at])), m_media.at(int(number))) == 0;
+    };
+    const size_t at = size_t(place.at);
+    return (at > 0 && isEqual(at - 1)) || (at + 1 < shown.size() && isEqual(at + 1));
+}
+
 quint32 NxMediaItemArrangement::listedNumberOfLast(const Items &listing)
 {
     closeHoles();
@@ -323,21 +367,27 @@ quint32 NxMediaItemArrangement::listedNumberOfLast(const Items &listing)
     return isOnlyMoved ? quint32(there - listing.begin()) : NoNumber;
 }
 
-void NxMediaItemArrangement::renumberLast(quint32 number, const Items &listing)
+void NxMediaItemArrangement::renumberLast(quint32 number)
 {
     const quint32 last = quint32(m_media.size()) - 1;
     const auto renumber = [number, last](quint32 &one) {
         one = one == last ? number : one >= number ? one + 1 : one;
     };
-    std::for_each(m_order.begin(), m_order.end(), renumber);
+    if (m_hasOrder && m_isLastOrdered) {
+        m_order.erase(std::remove(m_order.begin(), m_order.end(), last), m_order.end());
+        m_unordered.push_back(last);
+    }
+    if (m_hasOrder)
+        m_insertedSince.append(m_media.last());
     std::for_each(m_unordered.begin(), m_unordered.end(), renumber);
     for (Section &section : m_sections)
         std::for_each(section.shown.begin(), section.shown.end(), renumber);
-    m_media = listing;
+    m_media.move(int(last), int(number));
 }
 
 void NxMediaItemArrangement::setSettled()
 {
     m_changes.clear();
     m_isListingMoved = false;
+    m_isLastMoved = false;
 }

@@ -97,21 +97,28 @@ public:
     /// The media that changed; more than ManyChanges stand for any number.
     [[nodiscard]] const QVector<INxAbstractMedia *> &changes() const { return m_changes; }
 
-    /// Whether the media appended last may stand elsewhere in the listing.
+    /// The listing changed, and nobody knows where.
     void setListingMoved() { m_isListingMoved = true; }
     [[nodiscard]] bool isListingMoved() const { return m_isListingMoved; }
+    /// The media appended last stands elsewhere in the listing; all else is as it was.
+    void setLastMoved() { m_isLastMoved = true; }
+    [[nodiscard]] bool isLastMoved() const { return m_isLastMoved; }
     /// Everything stands where it belongs.
     void setSettled();
     /// The number that the media listed last has in the listing given; NoNumber when the listings
     /// differ in more.
     [[nodiscard]] quint32 listedNumberOfLast(const Items &listing);
-    /// Gives the last media, which is not shown, that number, and others theirs.
-    void renumberLast(quint32 number, const Items &listing);
+    /// Whether a media that is shown stands beside one that is its equal.
+    [[nodiscard]] bool hasEqualNeighbour(quint32 number) const;
+    /// Gives the last media that number, and others theirs.
+    void renumberLast(quint32 number);
+    /// Numbers are places in the listing again.
+    void closeHoles();
 
 private:
-    void closeHoles();
     void order(const Sort &sort);
     void placeUnordered();
+    void renumberOrder();
     [[nodiscard]] Numbers::const_iterator spotIn(Numbers::const_iterator begin,
                                                  Numbers::const_iterator end, quint32 number) const;
 
@@ -123,10 +130,14 @@ private:
     std::vector<Section> m_sections;
     QVector<INxAbstractMedia *> m_changes;
     bool m_isListingMoved = false;
+    bool m_isLastMoved = false;
 
     int m_bareSections = 0;
 
     Numbers m_order; // All media in order, as of the last pass; empty unless m_hasOrder.
+    /// Media that got their numbers since m_order was made, which counts without them.
+    Items m_insertedSince;
+    bool m_isLastOrdered = false; // The last of the media is in m_order.
     Numbers m_unordered; // What has no place in it yet, or a wrong one; maybe twice.
     bool m_hasOrder = false;
     std::vector<QString> m_keys;

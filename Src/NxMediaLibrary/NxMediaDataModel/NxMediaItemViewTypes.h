@@ -46,6 +46,7 @@ enum NxMediaItemViewSortBy : qint32 {
     sbCategory = 15,
     sbListorder = 16, ///< The service's own order.
     sbSale = 17,
+    sbCount = 18, ///< Known to usage events; nothing is sorted by it.
 };
 
 /// Engines take every value but 0 for descending.
