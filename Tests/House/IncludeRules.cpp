@@ -93,7 +93,7 @@ bool hasNoWidgets(const QString &module)
 
 bool isPrivateHeader(const QString &target)
 {
-    return target.endsWith(QLatin1String("_p.h"));
+    return target.endsWith(QLatin1String("_p.h")) || target.contains(QLatin1String("_P/"));
 }
 
 QString directionFault(const QString &module, const IncludeLine &include)
@@ -160,11 +160,17 @@ QStringList IncludeRules::fileCycleFaults(const QVector<SourceFile> &files)
 
 QStringList IncludeRules::folderCycleFaults(const QVector<SourceFile> &files)
 {
+    // Classes and their private halves, in "Folder" and "Folder_P", are one folder.
+    const auto wholeFolder = [](QString folder) {
+        if (folder.endsWith(QLatin1String("_P")))
+            folder.chop(2);
+        return folder;
+    };
     QVector<QPair<QString, QString>> edges;
     const QVector<IncludeLine> includes = includeLines(files);
     for (const IncludeLine &include : includes) {
-        const QString from = files.at(include.file).folder();
-        const QString to = SourceFile{include.resolved, {}, {}}.folder();
+        const QString from = wholeFolder(files.at(include.file).folder());
+        const QString to = wholeFolder(SourceFile{include.resolved, {}, {}}.folder());
         if (!include.resolved.isEmpty() && from != to)
             edges.append(qMakePair(from, to));
     }

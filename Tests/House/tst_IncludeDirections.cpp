@@ -147,6 +147,10 @@ void tst_IncludeDirections::aFaultyTreeIsTold_data()
     QTest::newRow("a private header of another module")
         << QVector<SourceFile>{file("NxWidgets/a.cpp", "# include <NxCore/NxLog_p.h>")}
         << QStringLiteral("NxWidgets/a.cpp:1: <NxCore/NxLog_p.h> is private to NxCore");
+    QTest::newRow("a private half of another module")
+        << QVector<SourceFile>{file("Brevano/a.cpp", "#include <NxMediaLibrary/In_P/b.h>")}
+        << QStringLiteral(
+               "Brevano/a.cpp:1: <NxMediaLibrary/In_P/b.h> is private to NxMediaLibrary");
     QTest::newRow("a folder that is no module")
         << QVector<SourceFile>{file("Misc/a.cpp", "")}
         << QStringLiteral("Misc/a.cpp:1: lies in no module of the house");
@@ -208,6 +212,10 @@ void tst_IncludeDirections::aSoundTreeHasNoFaults()
         file("NxCore/NxLogFile.cpp", "#include <spdlog/spdlog.h>\n#include \"NxLogFile.moc\""),
         file("NxVBLEngine/store/b.cpp", "#include <sqlite3.h>\n#include <NxCore/a.h>"),
         file("NxMediaLibrary/c.cpp", "#include <QPushButton>\n#include <NxVBLModel/NxMediaRef.h>"),
+        file("NxMediaLibrary/In/d.h", ""),
+        file("NxMediaLibrary/In/d.cpp", "#include <NxMediaLibrary/In_P/d.h>"),
+        file("NxMediaLibrary/In_P/d.h", ""),
+        file("NxMediaLibrary/In_P/d.cpp", "#include <NxMediaLibrary/In/d.h>"),
         file("Brevano/main.cpp", "#include <NxVBLEngine/NxVBLEngineExport.h>"),
     };
     QStringList faults = IncludeRules::directionFaults(files);

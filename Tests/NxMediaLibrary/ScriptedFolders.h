@@ -105,20 +105,34 @@ struct ScriptedFolderManager final : INxFolderMediaManager
     INxFolderMedia *rootFolder() override { return root.get(); }
     INxFolderMedia *folder(int) override { return nullptr; }
 
+    bool canRemoveFolder(INxFolderMedia *) override { return removable; }
     bool addFolder(INxFolderMedia *parent, const QString &name) override
     {
+        note(QStringLiteral("add %1 to %2").arg(name, parent->name()));
+        if (keepsAll)
+            return false;
         insert(parent, parent->childFolderCount(), std::make_unique<ScriptedFolder>(name));
         return true;
     }
-    bool removeFolder(INxFolderMedia *folder) override { return take(folder) != nullptr; }
+    bool removeFolder(INxFolderMedia *folder) override
+    {
+        note(QStringLiteral("remove %1").arg(folder->name()));
+        return !keepsAll && take(folder) != nullptr;
+    }
     bool renameFolder(INxFolderMedia *folder, const QString &name) override
     {
+        note(QStringLiteral("rename %1 to %2").arg(folder->name(), name));
+        if (keepsAll)
+            return false;
         static_cast<ScriptedFolder *>(folder)->title = name;
         observers.tell([&](auto *observer) { observer->onFolderStateChangedEvent(folder); });
         return true;
     }
     bool moveFolder(INxFolderMedia *folder, INxFolderMedia *newParent, int row) override
     {
+        note(QStringLiteral("move %1 to %2 %3").arg(folder->name(), newParent->name()).arg(row));
+        if (keepsAll)
+            return false;
         observers.tell([](auto *observer) { observer->onBeforeMoveFolderEvent(); });
         insert(newParent, row, take(folder));
         observers.tell([](auto *observer) { observer->onAfterMoveFolderEvent(); });
@@ -153,9 +167,18 @@ struct ScriptedFolderManager final : INxFolderMediaManager
         observers.remove(observer);
     }
 
+    void note(const QString &call) const
+    {
+        if (calls)
+            calls->append(call);
+    }
+
     std::unique_ptr<ScriptedFolder> root = std::make_unique<ScriptedFolder>(QStringLiteral("root"));
     NxObserverList<INxMediaFolderEventObserver> observers;
     bool refuses = false;
+    bool removable = true; ///< Whether folders may be removed.
+    bool keepsAll = false; ///< Whether every change is refused.
+    QStringList *calls = nullptr; ///< Where it is written down what is asked for. Not owned.
 };
 
 /// Builds what a text draws: "A(B C(D)) E" is A with B and C, D in C, and E beside A.

@@ -24,8 +24,12 @@ struct ScriptedItemFolder final : INxFolderMedia
 
     QString name() const override { return title; }
     INxFolderMedia *parentFolder() const override { return above; }
-    int folderId() const override { return NXVBLMODEL::fidFirstUserFolder; }
+    int folderId() const override { return id; }
     int kind() const override { return itsKind; }
+    INxMediaManager *mediaManager() const override
+    {
+        return managed || !above ? managed : above->mediaManager();
+    }
     bool holdsMediaType(int folderKind) const override
     {
         return isKind(folderKind) || extraKinds.contains(folderKind);
@@ -36,6 +40,10 @@ struct ScriptedItemFolder final : INxFolderMedia
     bool isNewnessOrdered() const override { return newnessOrdered; }
     bool canFetchMore() const override { return hasMorePages; }
     Items similarPackItems() const override { return pack; }
+    bool isSupportKeywordSearch() const override { return keywordSearch; }
+    bool isSupportOnlineSearch() const override { return onlineSearch; }
+    bool isSupportSimilarSearch() const override { return similarSearch; }
+    void setSearchEnabled(bool enabled) override { searchSwitches.append(enabled); }
     QList<INxFolderMedia *> childFolders() const override
     {
         QList<INxFolderMedia *> list;
@@ -79,13 +87,19 @@ struct ScriptedItemFolder final : INxFolderMedia
 
     QString title;
     int itsKind;
+    int id = NXVBLMODEL::fidFirstUserFolder;
     QList<int> extraKinds;
     bool searchResult = false;
     bool searchFolder = false;
+    bool keywordSearch = true;
+    bool onlineSearch = false;
+    bool similarSearch = false;
+    QList<bool> searchSwitches; ///< How the search was switched, the latest last.
     bool loaded = true;
     bool newnessOrdered = false;
     bool hasMorePages = false;
     ScriptedItemFolder *above = nullptr; // Not owned.
+    INxMediaManager *managed = nullptr; ///< Null: as the folder above says. Not owned.
     std::vector<std::unique_ptr<ScriptedItemFolder>> children;
     Items media; ///< In the order in which they are listed. Not owned.
     Items pack; ///< What a similar search calls one series. Not owned.

@@ -6,6 +6,8 @@
 #include <NxVBLModel/INxMediaItemManager.h>
 #include <NxVBLModel/NxObserverList.h>
 
+#include <QStringList>
+
 #include <functional>
 #include <utility>
 
@@ -22,6 +24,49 @@ struct ScriptedItemManager final : INxMediaItemManager
     void unregisterObserver(INxMediaItemEventObserver *observer) override
     {
         observers.remove(observer);
+    }
+    NXVBLMODEL::NxMediaCategoryType categoryType() const override { return category; }
+    INxFolderMedia *currentRoot() const override { return root; }
+    INxMediaManager *mediaManager() const override { return owner; }
+
+    bool addMediaItems(const QList<INxAbstractMedia *> &added) override
+    {
+        note(QStringLiteral("add %1").arg(namesOf(added)));
+        return !refuses;
+    }
+    bool addMediaItems(INxFolderMedia *folder, const QList<INxAbstractMedia *> &added) override
+    {
+        note(QStringLiteral("add %1 to %2").arg(namesOf(added), nameOf(folder)));
+        auto *into = static_cast<ScriptedItemFolder *>(folder);
+        for (INxAbstractMedia *item : added) {
+            if (!refuses)
+                insert(into, into->media.size(), static_cast<ScriptedItem *>(item));
+        }
+        return !refuses;
+    }
+    bool removeMediaItems(INxFolderMedia *folder, const QList<INxAbstractMedia *> &gone) override
+    {
+        note(QStringLiteral("remove %1 from %2").arg(namesOf(gone), nameOf(folder)));
+        for (INxAbstractMedia *item : gone) {
+            if (!refuses)
+                take(static_cast<ScriptedItem *>(item));
+        }
+        return !refuses;
+    }
+    bool renameMediaItem(INxAbstractMedia *item, const QString &name) override
+    {
+        note(QStringLiteral("rename %1 to %2").arg(nameOf(item), name));
+        if (!refuses)
+            rename(static_cast<ScriptedItem *>(item), name);
+        return !refuses;
+    }
+    void refresh(INxFolderMedia *folder) override
+    {
+        note(QStringLiteral("refresh %1").arg(nameOf(folder)));
+    }
+    void resetResourceLoader(INxFolderMedia *folder) override
+    {
+        note(QStringLiteral("reset loader of %1").arg(nameOf(folder)));
     }
 
     /// Lists the item in the folder, which becomes its home, before the one that has that place.
@@ -103,7 +148,29 @@ struct ScriptedItemManager final : INxMediaItemManager
             std::exchange(meanwhile, nullptr)();
     }
 
+    void note(const QString &call) const
+    {
+        if (calls)
+            calls->append(call);
+    }
+    static QString nameOf(const INxAbstractMedia *media)
+    {
+        return media ? media->name() : QStringLiteral("null");
+    }
+    static QString namesOf(const QList<INxAbstractMedia *> &medias)
+    {
+        QStringList names;
+        for (const INxAbstractMedia *media : medias)
+            names.append(nameOf(media));
+        return names.join(QLatin1Char(' '));
+    }
+
     NxObserverList<INxMediaItemEventObserver> observers;
+    NXVBLMODEL::NxMediaCategoryType category = NXVBLMODEL::mctMedia;
+    INxFolderMedia *root = nullptr; ///< What is listed at the moment. Not owned.
+    INxMediaManager *owner = nullptr; // Not owned.
+    bool refuses = false; ///< Whether what is asked for is refused.
+    QStringList *calls = nullptr; ///< Where it is written down what is asked for. Not owned.
     /// What happens next between a "before" and its "after"; once.
     std::function<void()> meanwhile;
 };

@@ -51,9 +51,13 @@ struct ScriptedItem final : INxAbstractMediaItem
 
     NXVBLMODEL::NxMediaType mediaType() const override { return type; }
     int state() const override { return licence; }
+    int kindCode() const override { return code; }
     QString name() const override { return title; }
+    QString mediaId() const override { return id; }
+    QString sourcePath() const override { return path; }
     INxFolderMedia *parentFolder() const override { return home; }
     bool isResource() const override { return resource; }
+    bool isSourceMedia() const override { return sourceMedia; }
     const INxMediaInfo *mediaInfo() const override { return hasInfo ? &info : nullptr; }
     bool isUnavailable() const override { return unavailable; }
     qint64 frameCount() const override { return frames; }
@@ -76,9 +80,13 @@ struct ScriptedItem final : INxAbstractMediaItem
 
     NXVBLMODEL::NxMediaType type;
     QString title;
+    int code = NXVBLMODEL::mkcNone;
+    QString id;
+    QString path;
     int licence = NXVBLMODEL::lsFree;
     INxFolderMedia *home = nullptr; // Not owned.
     bool resource = false;
+    bool sourceMedia = false;
     bool hasInfo = true;
     ScriptedInfo info;
     bool unavailable = false;

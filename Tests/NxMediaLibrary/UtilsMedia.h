@@ -26,6 +26,7 @@ struct UtilsInfo final : INxMediaInfo
     int streamFlags() const override { return flags; }
     qint64 frameCount() const override { return frames; }
     NxRational frameRate() const override { return rate; }
+    qint64 duration() const override { return length; }
     const NxVideoStreamInfo *videoStream() const override { return video ? &*video : nullptr; }
     const NxAudioStreamInfo *audioStream() const override { return audio ? &*audio : nullptr; }
     const NxImageInfo *imageInfo() const override { return image ? &*image : nullptr; }
@@ -34,6 +35,7 @@ struct UtilsInfo final : INxMediaInfo
     int flags;
     qint64 frames = 0;
     NxRational rate;
+    qint64 length = 0;
     std::optional<NxVideoStreamInfo> video;
     std::optional<NxAudioStreamInfo> audio;
     std::optional<NxImageInfo> image;
