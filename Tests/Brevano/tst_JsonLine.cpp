@@ -16,6 +16,7 @@ private Q_SLOTS:
     void anythingUnknownIsNull();
     void everyTextComesBackThroughAParser_data();
     void everyTextComesBackThroughAParser();
+    void textsAreAnArray();
     void aNumberKeepsAllItsDigits();
     void timesAreUtc();
 };
@@ -70,6 +71,14 @@ void tst_JsonLine::everyTextComesBackThroughAParser()
     const QJsonDocument document = QJsonDocument::fromJson(line.text(), &error);
     QCOMPARE(error.error, QJsonParseError::NoError);
     QCOMPARE(document.object().value(QStringLiteral("text")).toString(), text);
+}
+
+void tst_JsonLine::textsAreAnArray()
+{
+    JsonLine line;
+    line.addTexts("none", {});
+    line.addTexts("two", {QStringLiteral("a\"b"), QStringLiteral("c")});
+    QCOMPARE(line.text(), QByteArray("{\"none\":[],\"two\":[\"a\\\"b\",\"c\"]}"));
 }
 
 void tst_JsonLine::aNumberKeepsAllItsDigits()

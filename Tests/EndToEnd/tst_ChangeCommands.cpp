@@ -265,7 +265,7 @@ void tst_ChangeCommands::movesThatCannotBeAreRefused()
 void tst_ChangeCommands::mediaAreRemovedInOneStep()
 {
     const QStringList before = m_yard->shown();
-    const ProgramResult removed = run("remove", "a.mp4|$F/Day/clip.mp4|r.mp4|a.mp4");
+    const ProgramResult removed = run("remove", "a.mp4|$F/Day/clip.mp4|r.mp4|a.mp4|--yes");
     VERIFY_CODE(removed, 0);
     QCOMPARE(removed.output, QByteArray("Removed 3 media\n"));
     QCOMPARE(m_yard->shown().join(QLatin1Char('|')), QStringLiteral(": b.mp4|Day/Raw: clip.mp4"));
@@ -275,7 +275,7 @@ void tst_ChangeCommands::mediaAreRemovedInOneStep()
 
 void tst_ChangeCommands::aFolderIsRemovedWithAllThatItHolds()
 {
-    const ProgramResult removed = run("remove", "--folder|Day");
+    const ProgramResult removed = run("remove", "--folder|Day|--yes");
     VERIFY_CODE(removed, 0);
     QCOMPARE(removed.output, QByteArray("Removed Day with 3 media\n"));
     QCOMPARE(m_yard->shown().join(QLatin1Char('|')), QStringLiteral(": a.mp4|: b.mp4"));
@@ -349,7 +349,7 @@ void tst_ChangeCommands::foldersOfTheSharedSectionAreReached()
     VERIFY_CODE(run("rename", "--folder|Logos|Brand|--section=shared"), 0);
     QCOMPARE(m_yard->shown({QStringLiteral("--section"), QStringLiteral("shared")}),
              QStringList{QStringLiteral("Brand: a.mp4")});
-    VERIFY_CODE(run("remove", "--folder|Brand|--section=shared"), 0);
+    VERIFY_CODE(run("remove", "--folder|Brand|--section=shared|--yes"), 0);
     QCOMPARE(m_yard->shown({QStringLiteral("--section"), QStringLiteral("shared")}), QStringList());
 }
 

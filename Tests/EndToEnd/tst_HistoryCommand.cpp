@@ -68,8 +68,8 @@ void tst_HistoryCommand::everyStepGoesBackAndForthAcrossProcesses()
         {"move", "a.mp4|--into|Trip/Cut"},
         {"rename", "a.mp4|Intro"},
         {"rename", "--folder|Trip|Travel"},
-        {"remove", "b.mp4"},
-        {"remove", "--folder|footage/Day"},
+        {"remove", "b.mp4|--yes"},
+        {"remove", "--folder|footage/Day|--yes"},
     };
     for (const auto &[command, rest] : steps) {
         VERIFY_CODE(run(command, rest), 0);
@@ -99,7 +99,7 @@ void tst_HistoryCommand::undoneFolderRemovalBringsEverythingBackInOrder()
     const QVector<QJsonObject> before = m_yard->listed();
     QCOMPARE(before.size(), 120);
 
-    VERIFY_CODE(run("remove", "--folder|footage"), 0);
+    VERIFY_CODE(run("remove", "--folder|footage|--yes"), 0);
     QCOMPARE(m_yard->shown(), QStringList());
     VERIFY_CODE(m_yard->run("undo"), 0);
     QCOMPARE(m_yard->listed(), before);

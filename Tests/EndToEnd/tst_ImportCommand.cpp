@@ -278,7 +278,8 @@ void tst_ImportCommand::oddNamesArriveAsTheyAre()
     QVERIFY(!table.output.contains('\x1b'));
 
     VERIFY_CODE(
-        ProgramRun::run({QStringLiteral("remove"), m_yard->project(), QStringLiteral("--"), name},
+        ProgramRun::run({QStringLiteral("remove"), m_yard->project(), QStringLiteral("--yes"),
+                         QStringLiteral("--"), name},
                         m_yard->footage()),
         0);
     QCOMPARE(m_yard->paths(), QStringList());

@@ -86,7 +86,8 @@ void tst_KilledProgram::initTestCase()
     m_full = m_yard->path(QStringLiteral("Full.brevano"));
     m_emptied = m_yard->path(QStringLiteral("Emptied.brevano"));
 
-    const QStringList folder{QStringLiteral("--folder"), QStringLiteral("footage")};
+    const QStringList folder{QStringLiteral("--folder"), QStringLiteral("footage"),
+                             QStringLiteral("--yes")};
     m_importTime = durationOf("import", {m_yard->footage()});
     m_order = m_yard->paths();
     QCOMPARE(m_order.size(), allFiles);
@@ -193,8 +194,10 @@ void tst_KilledProgram::duringRemovalOfAFolder()
 {
     startFrom(m_full);
     ProgramRun run;
-    killDuring(&run, "remove", {QStringLiteral("--folder"), QStringLiteral("footage")},
-               m_removeTime);
+    killDuring(
+        &run, "remove",
+        {QStringLiteral("--folder"), QStringLiteral("footage"), QStringLiteral("--yes")},
+        m_removeTime);
     const bool told = !run.end().lines().isEmpty();
 
     const QStringList standing = m_yard->paths();
@@ -240,7 +243,7 @@ void tst_KilledProgram::duringClose()
     startFrom(m_full);
     ProgramRun run;
     run.begin({QStringLiteral("remove"), m_yard->project(), QStringLiteral("--folder"),
-               QStringLiteral("footage/part 003")});
+               QStringLiteral("footage/part 003"), QStringLiteral("--yes")});
     QVERIFY(run.waitForLine()); // It is told, so the closing begins.
     kill(&run, longestClose);
 

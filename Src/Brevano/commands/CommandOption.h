@@ -28,6 +28,12 @@ constexpr CommandOption type{"--type", "VALUE", "only what is of this type or li
 constexpr CommandOption search{"--search", "TEXT", "only names with this text"};
 constexpr CommandOption columns{"--columns", nullptr, "with the columns of the list view"};
 constexpr CommandOption noRead{"--no-read", nullptr, "do not look into the files now"};
+constexpr CommandOption to{"--to", "FILE", "the file that takes the place of the media's"};
+constexpr CommandOption searchFolder{"--search", "FOLDER",
+                                     "where missing files are looked for, folders in it included"};
+constexpr CommandOption removeUnused{"--remove", nullptr, "take them out of the project"};
+constexpr CommandOption yes{"--yes", nullptr, "every question is answered by yes"};
+constexpr CommandOption no{"--no", nullptr, "every question is answered by no"};
 constexpr CommandOption json{"--json", nullptr, "one JSON object a line"};
 constexpr CommandOption help{"--help", nullptr, "how the command is used"};
 

@@ -10,9 +10,11 @@
 #include <Brevano/commands/ListCommand.h>
 #include <Brevano/commands/MkdirCommand.h>
 #include <Brevano/commands/MoveCommand.h>
+#include <Brevano/commands/RelinkCommand.h>
 #include <Brevano/commands/RemoveCommand.h>
 #include <Brevano/commands/RenameCommand.h>
 #include <Brevano/commands/RereadCommand.h>
+#include <Brevano/commands/UnusedCommand.h>
 
 #include <algorithm>
 
@@ -99,11 +101,27 @@ const QVector<CommandEntry> table{
      make<MoveCommand>},
     {"remove",
      {"PROJECT NAME_OR_PATH...", "PROJECT --folder FOLDER"},
-     "Takes media, or a folder with all that it holds, out of the project. The files stay.",
-     {folder, section},
+     "Takes media, or a folder with all that it holds, out of the project and its timelines. The\n"
+     "files stay. What the panel asks first is answered by --yes or --no, or on the terminal.",
+     {folder, section, yes, no},
      1,
      any,
      make<RemoveCommand>},
+    {"relink",
+     {"PROJECT NAME_OR_PATH --to FILE", "PROJECT [NAME_OR_PATH...] --search FOLDER"},
+     "Gives media their files again: one by a file of the same length; or those that are missing\n"
+     "by a folder, in which they are recognised by their contents, else by name, size and length.",
+     {to, searchFolder, noRead, json},
+     1,
+     any,
+     make<RelinkCommand>},
+    {"unused",
+     {"PROJECT"},
+     "Lists the media that no timeline uses, and removes them from the project if wanted.",
+     {folder, section, removeUnused, yes, no, json},
+     1,
+     1,
+     make<UnusedCommand>},
     {"undo", {"PROJECT"}, "Takes back the last change.", {}, 1, 1, makeUndo},
     {"redo", {"PROJECT"}, "Does again what was taken back last.", {}, 1, 1, makeRedo},
     {"check",

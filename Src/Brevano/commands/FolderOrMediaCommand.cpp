@@ -13,6 +13,7 @@
 
 int FolderOrMediaCommand::run(const CommandLine &line, Console *console)
 {
+    m_console = console;
     const QString sectionFault = Sections::fault(line);
     const QString wrong = sectionFault.isEmpty() ? fault(line) : sectionFault;
     if (!wrong.isEmpty())

@@ -20,11 +20,14 @@ class ProjectSession;
 class FolderOrMediaCommand : public Command
 {
 public:
+    /// What a change came to: a line for the user, or the reason why it was refused.
+    using Outcome = NxResult<QString>;
+
     int run(const CommandLine &line, Console *console) final;
 
 protected:
-    /// What a change came to: a line for the user, or the reason why it was refused.
-    using Outcome = NxResult<QString>;
+    /// While the command runs. Not owned.
+    [[nodiscard]] Console *console() const { return m_console; }
 
     /// What is wrong with the words; empty when all is well.
     [[nodiscard]] virtual QString fault(const CommandLine &line) const = 0;
@@ -43,4 +46,6 @@ private:
     [[nodiscard]] std::optional<QVector<INxAbstractMedia *>> resolve(ProjectSession *session,
                                                                      const CommandLine &line,
                                                                      Console *console) const;
+
+    Console *m_console = nullptr;
 };

@@ -4,6 +4,8 @@
 
 #include <NxCore/NxText.h>
 
+#include <QByteArrayList>
+
 namespace {
 
 QByteArray escapedControl(uchar byte)
@@ -55,6 +57,14 @@ void JsonLine::addRaw(const char *key, const QByteArray &value)
 void JsonLine::addText(const char *key, const QString &value)
 {
     addRaw(key, quoted(value));
+}
+
+void JsonLine::addTexts(const char *key, const QStringList &values)
+{
+    QByteArrayList texts;
+    for (const QString &value : values)
+        texts.append(quoted(value));
+    addRaw(key, '[' + texts.join(',') + ']');
 }
 
 void JsonLine::addNumber(const char *key, qint64 value)

@@ -5,6 +5,7 @@
 #include <QByteArray>
 #include <QDateTime>
 #include <QString>
+#include <QStringList>
 
 /// One JSON object on one line of UTF-8, with its keys in the order in which they were added.
 ///
@@ -13,6 +14,8 @@ class JsonLine
 {
 public:
     void addText(const char *key, const QString &value);
+    /// An array of texts.
+    void addTexts(const char *key, const QStringList &values);
     void addNumber(const char *key, qint64 value);
     void addBool(const char *key, bool value);
     void addNull(const char *key);

@@ -4,6 +4,10 @@
 
 #include <Brevano/commands/Console.h>
 #include <Brevano/commands/ExitCode.h>
+#include <NxMediaLibrary/NxMediaLibraryPresenter/NxFolderMediaManagerPresenter.h>
+#include <NxMediaLibrary/NxMediaLibraryPresenter/NxMediaCategoryPresenter.h>
+#include <NxMediaLibrary/NxMediaLibraryPresenter/NxMediaItemManagerPresenter.h>
+#include <NxMediaLibrary/NxMediaLibraryPresenter/NxMediaLibraryPresenter.h>
 #include <NxVBLModel/INxAbstractMediaItem.h>
 #include <NxVBLModel/INxFolderMedia.h>
 #include <NxVBLModel/INxFolderMediaManager.h>
@@ -33,12 +37,15 @@ NxEmbeddedEngine::Options engineOptions()
 } // namespace
 
 ProjectSession::ProjectSession(Console *console)
-    : m_console(console), m_engine(engineOptions()), m_door(&m_engine)
+    : m_console(console),
+      m_engine(engineOptions()),
+      m_door(&m_engine)
 {
 }
 
 ProjectSession::~ProjectSession()
 {
+    m_panel.reset();
     if (!m_project)
         return;
     const NxResult<void> closed = m_engine.closeProject();
@@ -130,6 +137,7 @@ int ProjectSession::close(int code)
 {
     if (!m_project)
         return code;
+    m_panel.reset(); // It observes the project.
     m_project = nullptr;
     const NxResult<void> closed = m_engine.closeProject();
     if (closed)
@@ -166,6 +174,23 @@ INxMediaImporter *ProjectSession::importer() const
 INxFootageService *ProjectSession::footage() const
 {
     return m_project->footageService();
+}
+
+NxMediaLibraryPresenter *ProjectSession::panel()
+{
+    if (!m_panel)
+        m_panel = std::make_unique<NxMediaLibraryPresenter>(m_project->mediaLibrary(), nullptr);
+    return m_panel.get();
+}
+
+NxMediaItemManagerPresenter *ProjectSession::itemPresenter()
+{
+    return panel()->getMediaCategoryPresenter(NXVBLMODEL::mctMedia)->mediaItemManagerPresenter();
+}
+
+NxFolderMediaManagerPresenter *ProjectSession::folderPresenter()
+{
+    return panel()->getMediaCategoryPresenter(NXVBLMODEL::mctMedia)->folderManagerPresenter();
 }
 
 QList<INxAbstractMediaItem *> ProjectSession::media() const

@@ -9,6 +9,8 @@
 
 #include <QList>
 
+#include <memory>
+
 class Console;
 class INxAbstractMediaItem;
 class INxFolderMedia;
@@ -18,6 +20,9 @@ class INxMediaImporter;
 class INxMediaItemManager;
 class INxMediaManager;
 class INxUndoStack;
+class NxFolderMediaManagerPresenter;
+class NxMediaItemManagerPresenter;
+class NxMediaLibraryPresenter;
 
 /// One project, open for one command. Says on the console why something does not work.
 class ProjectSession
@@ -57,6 +62,9 @@ public:
     [[nodiscard]] INxMediaImporter *importer() const;
     /// What reads the footage; only what it is asked to.
     [[nodiscard]] INxFootageService *footage() const;
+    /// What the panel does to media, and to folders, of the project.
+    [[nodiscard]] NxMediaItemManagerPresenter *itemPresenter();
+    [[nodiscard]] NxFolderMediaManagerPresenter *folderPresenter();
     /// Every media of the project, section by section, in the order of its folders.
     [[nodiscard]] QList<INxAbstractMediaItem *> media() const;
     /// The sections in their order.
@@ -68,6 +76,7 @@ private:
     [[nodiscard]] bool isUsablePath(const ProgramArgument &project);
     [[nodiscard]] bool take(const NxResult<INxProject *> &opened);
     [[nodiscard]] bool canChange();
+    [[nodiscard]] NxMediaLibraryPresenter *panel();
     [[nodiscard]] INxMediaManager *manager(
         NXVBLMODEL::NxMediaCategoryType category = NXVBLMODEL::mctMedia) const;
 
@@ -75,6 +84,7 @@ private:
     NxEmbeddedEngine m_engine;
     const NxMediaEngineDoor m_door;
     INxProject *m_project = nullptr; // The engine's.
+    std::unique_ptr<NxMediaLibraryPresenter> m_panel; // Made at the first request.
     QString m_path;
     QString m_told; // The last reason that was said.
     bool m_isDamaged = false;

@@ -4,9 +4,17 @@
 
 #include <Brevano/commands/FolderOrMediaCommand.h>
 
-/// Takes media, or a folder with all that it holds, out of the project.
+#include <QList>
+
+/// Takes media, or a folder with all that it holds, out of the project. Asks what the panel asks.
 class RemoveCommand final : public FolderOrMediaCommand
 {
+public:
+    /// Removes media wherever they are: one question, one undo step.
+    [[nodiscard]] static Outcome removeMedia(ProjectSession *session, const CommandLine &line,
+                                             Console *console,
+                                             const QList<INxAbstractMedia *> &media);
+
 protected:
     QString fault(const CommandLine &line) const override;
     ProgramArguments mediaNames(const CommandLine &line) const override;
