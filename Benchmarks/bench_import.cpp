@@ -6,6 +6,8 @@
 // every file, and inserting the rows through the bare interface of SQLite in one transaction.
 // Besides, how long the event loop was held, and what an import from paths alone costs.
 
+#include "Heartbeat.h"
+
 #include <NxVBLEngine/disk/NxDiskThread.h>
 #include <NxVBLEngine/import/NxEngineImporter.h>
 #include <NxVBLEngine/objects/NxEngineCategory.h>
@@ -147,30 +149,6 @@ public:
 
 private:
     INxAbstractMedia *m_item = nullptr;
-};
-
-/// Measures the longest time between two turns of the event loop.
-class Heartbeat
-{
-public:
-    Heartbeat()
-    {
-        QObject::connect(&m_timer, &QTimer::timeout, &m_timer, [this] { beat(); });
-        m_timer.setTimerType(Qt::PreciseTimer);
-        m_last.start();
-        m_timer.start(1);
-    }
-    [[nodiscard]] double longest() const { return m_longest; }
-
-private:
-    void beat()
-    {
-        m_longest = std::max(m_longest, milliseconds(m_last));
-        m_last.start();
-    }
-    QTimer m_timer;
-    QElapsedTimer m_last;
-    double m_longest = 0;
 };
 
 struct Project

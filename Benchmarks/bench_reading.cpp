@@ -7,6 +7,7 @@
 
 #include "CameraFootage.h"
 #include "FullAnalysis.h"
+#include "Heartbeat.h"
 
 #include <NxMediaLibrary/NxMediaDataModel/NxMediaItemModel.h>
 #include <NxVBLEngine/NxEngineProject.h>
@@ -144,28 +145,6 @@ double analyseAll(const QStringList &files)
     return milliseconds(timer);
 }
 
-/// Measures the longest time between two turns of the event loop.
-class Heartbeat
-{
-public:
-    Heartbeat()
-    {
-        QObject::connect(&m_timer, &QTimer::timeout, &m_timer, [this] {
-            m_longest = std::max(m_longest, milliseconds(m_last));
-            m_last.start();
-        });
-        m_timer.setTimerType(Qt::PreciseTimer);
-        m_last.start();
-        m_timer.start(1);
-    }
-    [[nodiscard]] double longest() const { return m_longest; }
-
-private:
-    QTimer m_timer;
-    QElapsedTimer m_last;
-    double m_longest = 0;
-};
-
 NxWorkerSettings workerSettings(int workers)
 {
     NxWorkerSettings settings;
@@ -227,8 +206,8 @@ private:
 void factsOfCameraFootage(benchmark::State &state)
 {
     const QStringList originals = cameraFiles();
-    const QString footage = linkedFootage(QStringLiteral("camera"), originals,
-                                          originals.size() * LinksPerFile);
+    const QString footage =
+        linkedFootage(QStringLiteral("camera"), originals, originals.size() * LinksPerFile);
     const QStringList files = filesOf(footage);
     double ratios = 0;
     for (auto _ : state) {
