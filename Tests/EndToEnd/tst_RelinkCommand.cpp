@@ -23,7 +23,8 @@ private Q_SLOTS:
     void aFileOfAnotherLengthIsRefused();
     void whatIsNoMediaIsRefused_data();
     void whatIsNoMediaIsRefused();
-    void aFileThatIsNotThereIsTold();
+    void aFileThatIsNoneIsTold_data();
+    void aFileThatIsNoneIsTold();
     void allThatIsMissingIsFoundByItsContentsInOneStep();
     void aFileWithTwoCopiesIsListedAndNotChosen();
     void whatIsNotFoundIsTold();
@@ -152,13 +153,26 @@ void tst_RelinkCommand::whatIsNoMediaIsRefused()
     QCOMPARE(yard().paths(), before);
 }
 
-void tst_RelinkCommand::aFileThatIsNotThereIsTold()
+void tst_RelinkCommand::aFileThatIsNoneIsTold_data()
 {
+    QTest::addColumn<QString>("path");
+    QTest::addColumn<QByteArray>("cause");
+
+    QTest::newRow("not there") << QStringLiteral("nowhere.mp4")
+                               << QByteArray("nowhere.mp4: there is no such file");
+    QTest::newRow("a folder") << QStringLiteral("elsewhere")
+                              << QByteArray("elsewhere: it is no file");
+}
+
+void tst_RelinkCommand::aFileThatIsNoneIsTold()
+{
+    QFETCH(QString, path);
+    QFETCH(QByteArray, cause);
+
     const ProgramResult refused =
-        yard().run("relink", {QStringLiteral("film.mp4"), QStringLiteral("--to"),
-                              QStringLiteral("nowhere.mp4")});
+        yard().run("relink", {QStringLiteral("film.mp4"), QStringLiteral("--to"), path});
     VERIFY_CODE(refused, 1);
-    QVERIFY2(refused.said("nowhere.mp4: there is no such file"), refused.story().constData());
+    QVERIFY2(isSaid(refused, cause), refused.story().constData());
 }
 
 void tst_RelinkCommand::allThatIsMissingIsFoundByItsContentsInOneStep()

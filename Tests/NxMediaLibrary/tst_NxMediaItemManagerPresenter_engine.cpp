@@ -162,6 +162,26 @@ private Q_SLOTS:
         QCOMPARE(p.log.take(), (QStringList{selectionChanged, asked("b")}));
     }
 
+    void aRenameThatIsTakenBackOrDoneAgainSortsAgain()
+    {
+        Panel p;
+        p.import(p.section, {"a", "b"});
+        const QList<INxAbstractMedia *> all = p.listed();
+        p.presenter->setSortBy({NXMEDIALIBRARY::sbName, NXMEDIALIBRARY::soASC});
+        p.presenter->setSelectedItems({all[1]});
+        QVERIFY(p.items->renameMediaItem(all[1], QStringLiteral("0")));
+        p.log.take(); // What others rename does not sort by itself.
+        const QString sorted = QStringLiteral("items: sigSortByChanged()");
+        QVERIFY(p.undo->undo());
+        QCOMPARE(p.log.take(), (QStringList{sorted, asked("b")}));
+        QVERIFY(p.undo->redo());
+        QCOMPARE(p.log.take(), (QStringList{sorted, asked("0")}));
+        QVERIFY(p.undo->undo());
+        p.log.take();
+        p.import(p.section, {"c"});
+        QCOMPARE(p.log.take(), QStringList());
+    }
+
     void anImportIsNotSelectedByItself()
     {
         Panel p;

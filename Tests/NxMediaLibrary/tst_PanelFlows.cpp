@@ -279,6 +279,7 @@ void tst_PanelFlows::aRenamedMediaIsSortedInAndStaysSelected()
     QCOMPARE(yard.selection(), lines({"dawn"}));
     yard.press(QKeySequence::Undo);
     QCOMPARE(renamed->name(), QStringLiteral("b.wav"));
+    QCOMPARE(yard.rows(), lines({"a.mov", "b.wav", "c.mov", "d.jpg", "e.jpg"}));
     QCOMPARE(yard.selection(), lines({"b.wav"}));
 }
 

@@ -113,8 +113,10 @@ int RelinkCommand::relinkOne(ProjectSession *session, const CommandLine &line,
     if (!media || media->isEmpty())
         return NothingDone;
     const QString path = absolute(*line.value(CommandOptions::to));
-    if (!QFileInfo(path).isFile()) {
-        m_console->error(path, QStringLiteral("there is no such file"));
+    const QFileInfo file(path);
+    if (!file.isFile()) {
+        m_console->error(path, file.exists() ? QStringLiteral("it is no file")
+                                             : QStringLiteral("there is no such file"));
         return NothingDone;
     }
     INxAbstractMediaItem *item = media->constFirst();

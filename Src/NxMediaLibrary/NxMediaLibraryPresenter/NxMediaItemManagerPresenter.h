@@ -26,7 +26,7 @@ class NxMediaItemManagerPresenterPrivate;
 /// and selects again.
 ///
 /// What is removed from the project, by whomever, leaves the selection. What an undo or a redo
-/// brings back into the shown folder is selected.
+/// brings back into the shown folder is selected; what it renames is sorted in again.
 class NXMEDIALIBRARY_EXPORT NxMediaItemManagerPresenter : public NxBaseMediaPresenter
 {
     Q_OBJECT

@@ -178,18 +178,38 @@ void NxMediaItemManagerPresenterPrivate::onBeforeClearItemsEvent(INxFolderMedia 
 void NxMediaItemManagerPresenterPrivate::onAfterAddItemEvent(INxFolderMedia *folder,
                                                              INxAbstractMedia *item)
 {
+    if (!isGuestElsewhere(folder, item) && watchesReplay())
+        m_cameBack.append(item);
+}
+
+void NxMediaItemManagerPresenterPrivate::onRenameItemEvent(INxFolderMedia *, INxAbstractMedia *)
+{
+    if (watchesReplay())
+        m_isRenamed = true;
+}
+
+bool NxMediaItemManagerPresenterPrivate::watchesReplay()
+{
     INxUndoStack *stack = undoStack();
-    if (!stack || !stack->isReplaying() || isGuestElsewhere(folder, item))
-        return;
-    if (m_cameBack.isEmpty())
-        m_replayEnd =
-            QObject::connect(stack, &INxUndoStack::changed, q(), [this] { selectWhatCameBack(); });
-    m_cameBack.append(item);
+    if (!stack || !stack->isReplaying())
+        return false;
+    if (!m_replayEnd)
+        m_replayEnd = QObject::connect(stack, &INxUndoStack::changed, q(), [this] { endReplay(); });
+    return true;
+}
+
+void NxMediaItemManagerPresenterPrivate::endReplay()
+{
+    QObject::disconnect(m_replayEnd);
+    const QPointer<NxMediaItemManagerPresenter> alive(q());
+    if (std::exchange(m_isRenamed, false))
+        q()->setSortBy(sort); // As after a rename: the other name has another place.
+    if (alive)
+        selectWhatCameBack();
 }
 
 void NxMediaItemManagerPresenterPrivate::selectWhatCameBack()
 {
-    QObject::disconnect(m_replayEnd);
     const QPointer<NxMediaItemManagerPresenter> alive(q());
     QList<INxAbstractMedia *> shown;
     QSet<INxAbstractMedia *> known; // What came home and into its favourites is told twice.

@@ -66,6 +66,7 @@ public:
     [[nodiscard]] static QVector<NxMediaRef> watched(const QList<INxAbstractMedia *> &medias);
 
     void onAfterAddItemEvent(INxFolderMedia *folder, INxAbstractMedia *item) override;
+    void onRenameItemEvent(INxFolderMedia *folder, INxAbstractMedia *item) override;
     void onBeforeRemoveItemEvent(INxFolderMedia *folder, INxAbstractMedia *item) override;
     void onBeforeClearItemsEvent(INxFolderMedia *folder) override;
 
@@ -105,9 +106,13 @@ private:
     /// Favourites are guests: whether they come or go changes nothing in a list that shows their
     /// home.
     [[nodiscard]] bool isGuestElsewhere(INxFolderMedia *folder, const INxAbstractMedia *item) const;
+    /// Whether an undo or redo runs; at its end endReplay() is called.
+    [[nodiscard]] bool watchesReplay();
+    void endReplay();
     void selectWhatCameBack();
 
     std::weak_ptr<void> m_managerLife;
     QVector<NxMediaRef> m_cameBack; // In the undo or redo that runs.
+    bool m_isRenamed = false; // Something was, in it.
     QMetaObject::Connection m_replayEnd;
 };
