@@ -180,8 +180,9 @@ NxClipRecord StoreSamples::clip(qint64 id, qint64 timeline)
     record.id = id;
     record.timeline = timeline;
     record.kind = NXVBLMODEL::ckAudio;
-    record.media = 10 + id;
-    record.place = {2, 100 * id, 50, 7};
+    const qint64 few = id % 1000; // The largest ids leave no room to count with.
+    record.media = 10 + few;
+    record.place = {2, 100 * few, 50, 7};
     return record;
 }
 
