@@ -7,7 +7,6 @@
 #include <Footage/NxFootageRecipes.h>
 #include <Footage/NxFootageSet.h>
 #include <NxVBLEngine/NxEngineProject.h>
-#include <NxVBLEngine/Support/NxAsNobody.h>
 #include <NxVBLEngine/Support/NxFootageSamples.h>
 #include <NxVBLEngine/disk/NxFileProbe.h>
 #include <NxVBLEngine/reading/NxFootageReader.h>
@@ -41,7 +40,6 @@ private Q_SLOTS:
     void lengthsOfFacts();
     void whatCannotBeReadHasNone_data();
     void whatCannotBeReadHasNone();
-    void filesWithoutPermissionHaveNone();
     void withoutWorkersThereIsNone_data();
     void withoutWorkersThereIsNone();
     void theWindowLivesMeanwhile();
@@ -123,24 +121,6 @@ void tst_NxFileLength::whatCannotBeReadHasNone()
     QCOMPARE(length.read(name.isEmpty() ? name : f.path(name)), NxFileLength::None);
     if (!isReal) // The next one is none the worse for it.
         QCOMPARE(length.read(f.path(QStringLiteral("good.mp4"))), ScriptedLength);
-}
-
-void tst_NxFileLength::filesWithoutPermissionHaveNone()
-{
-    MovedProject f;
-    const NxFootageRecipe &recipe = NxFootageRecipes::all().front();
-    QFile film(NxFootageSet::path(recipe));
-    QVERIFY(film.open(QIODevice::ReadOnly));
-    const QByteArray bytes = film.readAll();
-    const QString open = f.footage.file(QStringLiteral("open/") + recipe.name, bytes);
-    const QString shut = f.footage.file(QStringLiteral("shut/") + recipe.name, bytes);
-    QVERIFY(QFile::setPermissions(shut, QFile::WriteOwner));
-    NxAsNobody::give(f.root());
-    const QString told = NxAsNobody::run([&] {
-        NxFileLength length(f.settings);
-        return QStringLiteral("%1 %2").arg(length.read(open)).arg(length.read(shut));
-    });
-    QCOMPARE(told, QStringLiteral("%1 -1").arg(recipe.truth.frames));
 }
 
 void tst_NxFileLength::withoutWorkersThereIsNone_data()
