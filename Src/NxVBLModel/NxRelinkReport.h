@@ -15,7 +15,9 @@ enum class NxRelinkMatch {
     Fingerprint, ///< Its contents are the same.
     /// Its name and size are the same, and its length where that is known.
     NameSizeDuration,
-    Ambiguous, ///< Several files match equally well: it is for the user to choose.
+    /// Several files match equally well, or one that was not looked at might: it is for the user to
+    /// choose.
+    Ambiguous,
 };
 
 /// What was found for one media.

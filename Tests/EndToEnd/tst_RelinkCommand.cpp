@@ -208,7 +208,7 @@ void tst_RelinkCommand::aFileWithTwoCopiesIsListedAndNotChosen()
     const ProgramResult found =
         yard().run("relink", {QStringLiteral("--search"), elsewhere(QString())});
     VERIFY_CODE(found, 1);
-    QVERIFY2(isSaid(found, "film.mp4: may be one of several files:\n  " + one.toUtf8() + "\n  "
+    QVERIFY2(isSaid(found, "film.mp4: may be one of these files:\n  " + one.toUtf8() + "\n  "
                                + two.toUtf8() + "\n"),
              found.story().constData());
     QCOMPARE(found.output, QByteArray("0 media relinked, 1 still missing\n"));

@@ -37,7 +37,7 @@ constexpr MatchWord MatchWords[] = {
     {NxRelinkMatch::None, "not_found", "was not found"},
     {NxRelinkMatch::Fingerprint, "fingerprint", "the same contents"},
     {NxRelinkMatch::NameSizeDuration, "name_size_duration", "the same name, size and length"},
-    {NxRelinkMatch::Ambiguous, "ambiguous", "may be one of several files:"},
+    {NxRelinkMatch::Ambiguous, "ambiguous", "may be one of these files:"},
 };
 
 const MatchWord &wordOf(NxRelinkMatch match)

@@ -103,24 +103,39 @@ void NxMissingMediaRelinker::onFinished(quint64 search, NxRelinkReport report)
         return;
     m_search = 0;
     m_engine->disconnect(this);
-    INxMediaItemManager *manager = m_presenter ? m_presenter->itemManager() : nullptr;
-    int relinked = 0;
-    {
-        INxProject *project = currentProject();
-        const NxUndoRedoCommander step(project ? project->undoStack() : nullptr,
-                                       QStringLiteral("NxMissingMediaRelinker::onFinished"),
-                                       QStringLiteral("relinkMedia"));
-        for (NxRelinkFinding &finding : report.findings) {
-            if (!isFound(finding))
-                continue;
-            if (relink(manager, finding))
-                ++relinked;
-            else
-                finding.match = NxRelinkMatch::None;
-        }
-    }
+    const int relinked = report.cancelled ? 0 : relinkAll(&report);
+    if (report.cancelled)
+        leaveToTheUser(&report);
     m_paths.clear();
     Q_EMIT finished(report, relinked);
+}
+
+int NxMissingMediaRelinker::relinkAll(NxRelinkReport *report) const
+{
+    INxMediaItemManager *manager = m_presenter ? m_presenter->itemManager() : nullptr;
+    INxProject *project = currentProject();
+    const NxUndoRedoCommander step(project ? project->undoStack() : nullptr,
+                                   QStringLiteral("NxMissingMediaRelinker::onFinished"),
+                                   QStringLiteral("relinkMedia"));
+    int relinked = 0;
+    for (NxRelinkFinding &finding : report->findings) {
+        if (!isFound(finding))
+            continue;
+        if (relink(manager, finding))
+            ++relinked;
+        else
+            finding.match = NxRelinkMatch::None;
+    }
+    return relinked;
+}
+
+// What was not looked at may match as well.
+void NxMissingMediaRelinker::leaveToTheUser(NxRelinkReport *report)
+{
+    for (NxRelinkFinding &finding : report->findings) {
+        if (isFound(finding))
+            finding.match = NxRelinkMatch::Ambiguous;
+    }
 }
 
 void NxMissingMediaRelinker::onEngineGone()

@@ -36,7 +36,8 @@ public:
     /// the log, when a search runs already or the project has nothing that searches. finished()
     /// follows.
     bool start(const QList<INxAbstractMediaItem *> &items, const QString &directory);
-    /// finished() follows; what was found until then is relinked.
+    /// finished() follows; nothing is relinked then. What was found until then stands in the report
+    /// as ambiguous: what was not looked at may match as well.
     void cancel();
     [[nodiscard]] bool isRunning() const { return m_search != 0; }
 
@@ -51,6 +52,8 @@ private:
     void onProgress(quint64 search, qint64 seen, qint64 compared);
     void onFinished(quint64 search, NxRelinkReport report);
     void onEngineGone();
+    [[nodiscard]] int relinkAll(NxRelinkReport *report) const;
+    static void leaveToTheUser(NxRelinkReport *report);
     [[nodiscard]] bool relink(INxMediaItemManager *manager, const NxRelinkFinding &finding) const;
 
     const QPointer<NxMediaItemManagerPresenter> m_presenter;
