@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #pragma once
 
+#include "BenchmarkTools.h"
+
 #include <QElapsedTimer>
 #include <QTimer>
 
@@ -24,7 +26,7 @@ public:
 private:
     void beat()
     {
-        m_longest = std::max(m_longest, double(m_last.nsecsElapsed()) / 1e6);
+        m_longest = std::max(m_longest, milliseconds(m_last));
         m_last.start();
     }
     QTimer m_timer;

@@ -6,6 +6,7 @@
 // analyse its streams, pictures included, in one process. The footage of the tests is so small
 // that opening it is half of the bound; what cameras write is measured by itself.
 
+#include "BenchmarkTools.h"
 #include "CameraFootage.h"
 #include "FullAnalysis.h"
 
@@ -31,7 +32,6 @@ extern "C" {
 namespace {
 
 constexpr int Rounds = 11;
-constexpr double NanosecondsPerMillisecond = 1e6;
 
 struct Footage
 {
@@ -62,17 +62,6 @@ NxResult<NxFootageFacts> factsOf(const Footage &footage)
     const auto container = Container::open(file->get());
     return container ? FactsReader::ofStream(container->get())
                      : NxResult<NxFootageFacts>(container.error());
-}
-
-double milliseconds(const QElapsedTimer &timer)
-{
-    return double(timer.nsecsElapsed()) / NanosecondsPerMillisecond;
-}
-
-double median(std::vector<double> values)
-{
-    std::sort(values.begin(), values.end());
-    return values.at(values.size() / 2);
 }
 
 void readFacts(benchmark::State &state, std::vector<Footage> files)

@@ -6,6 +6,7 @@
 // every file, and inserting the rows through the bare interface of SQLite in one transaction.
 // Besides, how long the event loop was held, and what an import from paths alone costs.
 
+#include "BenchmarkTools.h"
 #include "Heartbeat.h"
 
 #include <NxVBLEngine/disk/NxDiskThread.h>
@@ -41,23 +42,6 @@ namespace {
 constexpr int Folders = 10;
 constexpr int FilesEach = 1'000;
 constexpr int Rounds = 5;
-constexpr double NanosecondsPerMillisecond = 1e6;
-
-[[noreturn]] void giveUp(const QString &why)
-{
-    qFatal("%s", qUtf8Printable(why));
-}
-
-double milliseconds(const QElapsedTimer &timer)
-{
-    return double(timer.nsecsElapsed()) / NanosecondsPerMillisecond;
-}
-
-double median(std::vector<double> values)
-{
-    std::sort(values.begin(), values.end());
-    return values.at(values.size() / 2);
-}
 
 /// The footage of all rounds; made once.
 const QString &footage()

@@ -7,6 +7,8 @@
 // once (where there are no key frames for it, all pictures that others need), scaled roughly and
 // thrown away. Besides, what one call of ffmpegthumbnailer a file costs, where that program is.
 
+#include "BenchmarkTools.h"
+
 #include <NxWorkerProtocol/NxPictureFile.h>
 #include <brevano-worker/input/Container.h>
 #include <brevano-worker/input/FootageFile.h>
@@ -33,21 +35,9 @@ namespace {
 using namespace NxPictureFile;
 
 constexpr int Rounds = 5;
-constexpr double NanosecondsPerMillisecond = 1e6;
 constexpr double MillisecondsPerSecond = 1'000;
 constexpr QSize CoverBox(CoverWidth, CoverHeight);
 constexpr QSize FrameBox(FrameWidth, FrameHeight);
-
-[[noreturn]] void giveUp(const QString &why)
-{
-    qFatal("%s", qUtf8Printable(why));
-}
-
-double median(std::vector<double> values)
-{
-    std::sort(values.begin(), values.end());
-    return values.at(values.size() / 2);
-}
 
 double timeOf(const std::function<void()> &job)
 {

@@ -5,6 +5,7 @@
 // answers cost the event loop are all in. The bound of facts is a full analysis of every file's
 // streams, one after the other in one process.
 
+#include "BenchmarkTools.h"
 #include "CameraFootage.h"
 #include "FullAnalysis.h"
 #include "Heartbeat.h"
@@ -47,18 +48,7 @@ constexpr int Clips = 10'000;
 constexpr int ClipsPerFolder = 1'000;
 constexpr int LinksPerFile = 4;
 constexpr int CopiesPerFile = 3;
-constexpr double NanosecondsPerMillisecond = 1e6;
 constexpr double MillisecondsPerSecond = 1e3;
-
-[[noreturn]] void giveUp(const QString &why)
-{
-    qFatal("%s", qUtf8Printable(why));
-}
-
-double milliseconds(const QElapsedTimer &timer)
-{
-    return double(timer.nsecsElapsed()) / NanosecondsPerMillisecond;
-}
 
 const QTemporaryDir &workFolder()
 {

@@ -6,6 +6,7 @@
 // without: reading the folders, looking at every file, and reading those that have the size of a
 // missing one, one after the other in one process.
 
+#include "BenchmarkTools.h"
 #include "Heartbeat.h"
 
 #include <NxVBLEngine/disk/NxDiskThread.h>
@@ -46,24 +47,7 @@ constexpr int FilesEach = 1'000;
 constexpr int Missing = 300;
 constexpr int Rounds = 3;
 constexpr int SmallestFile = 1'024; // bytes
-constexpr double NanosecondsPerMillisecond = 1e6;
 constexpr double MillisecondsPerSecond = 1e3;
-
-[[noreturn]] void giveUp(const QString &why)
-{
-    qFatal("%s", qUtf8Printable(why));
-}
-
-double milliseconds(const QElapsedTimer &timer)
-{
-    return double(timer.nsecsElapsed()) / NanosecondsPerMillisecond;
-}
-
-double median(std::vector<double> values)
-{
-    std::sort(values.begin(), values.end());
-    return values.at(values.size() / 2);
-}
 
 struct Footage
 {

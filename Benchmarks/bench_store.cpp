@@ -4,6 +4,8 @@
 // Writing and reading project files, each beside the same work with the bare C interface of
 // SQLite. Ours and the bound take turns within one process; "ratio" is median by median.
 
+#include "BenchmarkTools.h"
+
 #include <NxVBLEngine/store/NxProjectStore.h>
 
 #include <QCoreApplication>
@@ -24,11 +26,6 @@ namespace {
 
 constexpr int BatchSize = 1000;
 constexpr int Rounds = 5;
-
-[[noreturn]] void giveUp(const QString &why)
-{
-    qFatal("%s", qUtf8Printable(why));
-}
 
 NxMediaRecord recordOf(int number)
 {
@@ -96,12 +93,6 @@ std::vector<BareRow> bareRows(int count)
 double msec(const QElapsedTimer &timer)
 {
     return double(timer.nsecsElapsed()) / 1e6;
-}
-
-double median(std::vector<double> values)
-{
-    std::sort(values.begin(), values.end());
-    return values.at(values.size() / 2);
 }
 
 void run(sqlite3 *database, const char *sql)

@@ -1,0 +1,29 @@
+// SPDX-FileCopyrightText: 2026 Brevano contributors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#pragma once
+
+#include <QElapsedTimer>
+#include <QString>
+
+#include <algorithm>
+#include <vector>
+
+// What several benchmark programs need.
+
+constexpr double NanosecondsPerMillisecond = 1e6;
+
+[[noreturn]] inline void giveUp(const QString &why)
+{
+    qFatal("%s", qUtf8Printable(why));
+}
+
+inline double milliseconds(const QElapsedTimer &timer)
+{
+    return double(timer.nsecsElapsed()) / NanosecondsPerMillisecond;
+}
+
+inline double median(std::vector<double> values)
+{
+    std::sort(values.begin(), values.end());
+    return values.at(values.size() / 2);
+}
