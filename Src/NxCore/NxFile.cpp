@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include <NxCore/NxFile.h>
 
+#include <NxCore/NxDiskBan.h>
+
 #include <QFileInfo>
 
 #include <memory>
@@ -38,6 +40,7 @@ bool NxFile::exists(const QString &path)
         if (const std::optional<bool> known = (*answerer)(path))
             return *known;
     }
+    NxDiskBan::note("NxFile::exists");
     return QFileInfo::exists(path);
 }
 

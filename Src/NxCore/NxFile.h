@@ -18,7 +18,7 @@ public:
     using Answerer = std::function<std::optional<bool>(const QString &path)>;
 
     /// Whether there is a file or folder of this path: the installed answerer's word, else a real
-    /// look at the disk. False for an empty path. From any thread.
+    /// look at the disk, which NxDiskBan notes. False for an empty path. From any thread.
     [[nodiscard]] static bool exists(const QString &path);
 
     /// Installs the one answerer of the process, in place of the one before; an empty function

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include <NxVBLEngine/disk/NxFileProbe.h>
 
+#include <NxCore/NxDiskBan.h>
 #include <NxCore/NxText.h>
 
 #include <QByteArray>
@@ -61,6 +62,7 @@ QByteArray unescaped(const QByteArray &text)
 
 NxFileFacts NxFileProbe::look(const QString &path)
 {
+    NxDiskBan::note("NxFileProbe::look");
     NxFileFacts facts;
     const QByteArray name = path.toUtf8();
     struct statx found = {};
@@ -91,6 +93,7 @@ bool NxFileProbe::isLink(const QString &path)
 
 NxFileProbe::Canonical NxFileProbe::canonicalPath(const QString &path)
 {
+    NxDiskBan::note("NxFileProbe::canonicalPath");
     const std::unique_ptr<char, decltype(&std::free)> real(
         realpath(path.toUtf8().constData(), nullptr), &std::free);
     if (!real)

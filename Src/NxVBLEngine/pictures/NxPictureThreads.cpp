@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include <NxVBLEngine/pictures/NxPictureThreads.h>
 
+#include <NxCore/NxDiskBan.h>
 #include <NxVBLEngine/pictures/NxPictureCache.h>
 
 #include <QFile>
@@ -116,6 +117,7 @@ void NxPictureThreads::work(const std::shared_ptr<Shared> &shared)
 
 QImage NxPictureThreads::loaded(const NxPictureKey &key, const QString &path)
 {
+    NxDiskBan::note("NxPictureThreads::loaded");
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly))
         return {};

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include <NxVBLEngine/reading/NxWorkerProcess.h>
 
+#include <NxCore/NxDiskBan.h>
 #include <NxWorkerProtocol/NxWorkerExit.h>
 
 #include <QPointer>
@@ -40,6 +41,7 @@ NxWorkerProcess::~NxWorkerProcess()
 
 void NxWorkerProcess::start()
 {
+    NxDiskBan::note("NxWorkerProcess::start");
     m_process->start(QIODevice::ReadWrite | QIODevice::Unbuffered);
 }
 
@@ -50,6 +52,7 @@ qint64 NxWorkerProcess::processId() const
 
 void NxWorkerProcess::ask(const NxReadRequest &request)
 {
+    NxDiskBan::note("NxWorkerProcess::ask");
     m_isReady = false;
     m_process->write(
         NxWorkerFrames::framed(NxWorkerWord::Request, NxWorkerMessages::packed(request)));

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include <NxVBLEngine/store/NxSqliteDatabase.h>
 
+#include <NxCore/NxDiskBan.h>
+
 #include <QFile>
 
 #include <sqlite3.h>
@@ -42,6 +44,7 @@ NxResult<std::unique_ptr<NxSqliteDatabase>> NxSqliteDatabase::open(const QString
         name = immutableUri(name);
 
     sqlite3 *handle = nullptr;
+    NxDiskBan::note("NxSqliteDatabase::open");
     const int code = sqlite3_open_v2(name.constData(), &handle, openFlags(access), vfs);
     std::unique_ptr<NxSqliteDatabase> database(
         new NxSqliteDatabase(shownPath.isEmpty() ? path : shownPath, handle));

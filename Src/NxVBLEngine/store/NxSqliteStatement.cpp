@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include <NxVBLEngine/store/NxSqliteStatement.h>
 
+#include <NxCore/NxDiskBan.h>
 #include <NxVBLEngine/records/NxLosslessText.h>
 
 #include <sqlite3.h>
@@ -48,6 +49,7 @@ void NxSqliteStatement::bind(int parameter, const QByteArray &value)
 
 NxSqliteStatement::Step NxSqliteStatement::step()
 {
+    NxDiskBan::note("NxSqliteStatement::step");
     const int code = sqlite3_step(m_statement);
     if (code == SQLITE_ROW)
         return Step::Row;
