@@ -23,7 +23,8 @@ QString quoted(const QString &text)
 ScriptYard::ScriptYard()
 {
     m_isValid = m_folder.isValid() && QDir(folder()).mkpath(QStringLiteral("user"));
-    for (const char *name : {"run", "check", ".ci/run", "CMakePresets.json", "Packaging/setup.sh"})
+    for (const char *name : {"run", "check", ".ci/run", "CMakePresets.json", "Packaging/setup.sh",
+                             "Packaging/draw-pictures"})
         copyScript(QLatin1String(name));
     listPackages({});
 }

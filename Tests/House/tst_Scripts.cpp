@@ -66,14 +66,17 @@ private Q_SLOTS:
     void checkStopsAtTheFirstBrokenStage_data();
     void checkStopsAtTheFirstBrokenStage();
     void continuousIntegrationRunsTheCheck();
+
+    void everyPictureIsDrawnInTwoSizes();
+    void aPictureThatCannotBeDrawnIsTold();
 };
 
 void tst_Scripts::scriptsAreReadByBash_data()
 {
     QTest::addColumn<QString>("script");
     for (const char *script :
-         {"run", "check", ".ci/run", "Packaging/setup.sh", "Packaging/make-listing",
-          "Packaging/make-samples", "Tests/mutants/run"})
+         {"run", "check", ".ci/run", "Packaging/setup.sh", "Packaging/draw-pictures",
+          "Packaging/make-listing", "Packaging/make-samples", "Tests/mutants/run"})
         QTest::newRow(script) << QString::fromLatin1(script);
 }
 
@@ -91,8 +94,9 @@ void tst_Scripts::scriptsAreReadByBash()
 void tst_Scripts::commandsAreExecutable_data()
 {
     QTest::addColumn<QString>("script");
-    for (const char *script : {"run", "check", ".ci/run", "Packaging/make-listing",
-                               "Packaging/make-samples", "Tests/mutants/run"})
+    for (const char *script :
+         {"run", "check", ".ci/run", "Packaging/draw-pictures", "Packaging/make-listing",
+          "Packaging/make-samples", "Tests/mutants/run"})
         QTest::newRow(script) << QString::fromLatin1(script);
 }
 
@@ -128,6 +132,9 @@ void tst_Scripts::usage_data()
         << check << QStringList{help} << 0 << QStringLiteral("Usage: ./check [--all]");
     QTest::newRow("unknown argument of check")
         << check << QStringList{unknown} << 2 << QStringLiteral("check: unknown argument --bogus");
+    QTest::newRow("argument of draw-pictures")
+        << QStringLiteral("Packaging/draw-pictures") << QStringList{unknown} << 2
+        << QStringLiteral("Usage: draw-pictures");
 }
 
 void tst_Scripts::usage()
@@ -470,6 +477,46 @@ void tst_Scripts::continuousIntegrationRunsTheCheck()
 
     QCOMPARE(result.code, 1);
     QCOMPARE(callsOf(yard, QStringLiteral("(cmake|ctest)")).size(), 3);
+}
+
+void tst_Scripts::everyPictureIsDrawnInTwoSizes()
+{
+    ScriptYard yard;
+    yard.fakeProgram(QStringLiteral("rsvg-convert"));
+    const QString pictures = yard.folder() + QStringLiteral("/Src/NxOne/resources/");
+    for (const char *name : {"a.svg", "a folder/b.svg", "a folder/c.png"})
+        yard.writeProgram(QLatin1String("Src/NxOne/resources/") + QLatin1String(name), QString());
+    QVERIFY(yard.isValid());
+
+    const CommandResult result = yard.run(QStringLiteral("Packaging/draw-pictures"), {});
+
+    QCOMPARE(result.code, 0);
+    const QString drawn = QStringLiteral("rsvg-convert --zoom %1 --output %2%3.png -- %2%4.svg");
+    QStringList calls;
+    for (const char *name : {"a folder/b", "a"}) {
+        const QString picture = QLatin1String(name);
+        calls += drawn.arg(QStringLiteral("1"), pictures, picture, picture);
+        calls += drawn.arg(QStringLiteral("2"), pictures, picture + QLatin1String("@2x"), picture);
+    }
+    QStringList called = yard.calls();
+    calls.sort();
+    called.sort();
+    QCOMPARE(called, calls);
+}
+
+void tst_Scripts::aPictureThatCannotBeDrawnIsTold()
+{
+    ScriptYard yard;
+    yard.fakeProgram(QStringLiteral("rsvg-convert"), QStringLiteral("echo unreadable >&2; exit 1"));
+    for (const char *name : {"a.svg", "b.svg"})
+        yard.writeProgram(QLatin1String("Src/NxOne/resources/") + QLatin1String(name), QString());
+    QVERIFY(yard.isValid());
+
+    const CommandResult result = yard.run(QStringLiteral("Packaging/draw-pictures"), {});
+
+    QVERIFY(result.code != 0);
+    QVERIFY(result.errors.contains(QLatin1String("unreadable")));
+    QCOMPARE(yard.calls().size(), 1);
 }
 
 NX_TEST_MAIN(tst_Scripts)

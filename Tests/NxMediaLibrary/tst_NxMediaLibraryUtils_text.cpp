@@ -5,6 +5,7 @@
 #include <NxMediaLibrary/NxMediaLibraryUtils.h>
 
 #include <NxCore/INxAppInfo.h>
+#include <NxWidgets/NxSkinPicture.h>
 
 #include <Support/NxTempDir.h>
 #include <Support/NxTestMain.h>
@@ -13,6 +14,8 @@
 #include <QFileInfo>
 #include <QImage>
 #include <QTest>
+
+#include <cstdlib>
 
 using Utils = NxMediaLibraryUtils;
 using namespace NXVBLMODEL;
@@ -70,6 +73,8 @@ private Q_SLOTS:
     void withoutResourcesThereIsNoCover();
     void theCoversCameWithTheLibrary_data();
     void theCoversCameWithTheLibrary();
+    void theCoversAreThereForCrispScreensToo_data();
+    void theCoversAreThereForCrispScreensToo();
 };
 
 void tst_NxMediaLibraryUtils_text::onlySomeTypesHaveALength_data()
@@ -349,6 +354,30 @@ void tst_NxMediaLibraryUtils_text::theCoversCameWithTheLibrary()
             light += qGray(cover.pixel(x, y)) > 120;
     }
     QVERIFY2(light > 1000, qPrintable(QString::number(light)));
+}
+
+void tst_NxMediaLibraryUtils_text::theCoversAreThereForCrispScreensToo_data()
+{
+    theCoversCameWithTheLibrary_data();
+}
+
+void tst_NxMediaLibraryUtils_text::theCoversAreThereForCrispScreensToo()
+{
+    QFETCH(QString, path);
+    const NxSkinPicture cover(path);
+    const QImage plain = cover.pixmap(1.0).toImage();
+    const QImage crisp = cover.pixmap(2.0).toImage();
+    QCOMPARE(crisp.size(), plain.size() * 2);
+    QCOMPARE(crisp.devicePixelRatio(), 2.0);
+
+    const QImage shrunk =
+        crisp.scaled(plain.size(), Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+    qint64 difference = 0;
+    for (int y = 0; y < plain.height(); ++y) {
+        for (int x = 0; x < plain.width(); ++x)
+            difference += std::abs(qGray(plain.pixel(x, y)) - qGray(shrunk.pixel(x, y)));
+    }
+    QVERIFY2(difference < qint64(plain.width()) * plain.height(), qPrintable(path));
 }
 
 NX_TEST_MAIN(tst_NxMediaLibraryUtils_text)

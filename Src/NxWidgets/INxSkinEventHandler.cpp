@@ -1,0 +1,5 @@
+// SPDX-FileCopyrightText: 2026 Brevano contributors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include <NxWidgets/INxSkinEventHandler.h>
+
+INxSkinEventHandler::~INxSkinEventHandler() = default;
