@@ -10,6 +10,9 @@
 #include <NxVBLEngine/objects/NxProjectMemory.h>
 #include <NxVBLEngine/pictures/NxEngineThumbManager.h>
 #include <NxVBLEngine/pictures/NxPictureService.h>
+#include <NxVBLEngine/preview/NxPreviewClip.h>
+#include <NxVBLEngine/preview/NxPreviewService.h>
+#include <NxVBLEngine/preview/NxPreviewTimeline.h>
 #include <NxVBLEngine/reading/NxFootageReader.h>
 #include <NxVBLEngine/reading/NxWorkerLocation.h>
 #include <NxVBLEngine/store/NxProjectStore.h>
@@ -48,6 +51,14 @@ public:
         return store;
     }
 
+    QString pictureFolder() const
+    {
+        return options.pictureFolder.isEmpty()
+                   ? QStandardPaths::writableLocation(QStandardPaths::CacheLocation)
+                         + QStringLiteral("/Pictures")
+                   : absolute(options.pictureFolder);
+    }
+
     NxWorkerSettings workerSettings() const
     {
         NxWorkerSettings workers;
@@ -55,14 +66,21 @@ public:
         workers.whyNone = program.errorText();
         if (program)
             workers.program = program.take();
-        workers.cacheFolder = options.pictureFolder.isEmpty()
-                                  ? QStandardPaths::writableLocation(QStandardPaths::CacheLocation)
-                                        + QStringLiteral("/Pictures")
-                                  : absolute(options.pictureFolder);
+        workers.cacheFolder = pictureFolder();
         if (options.workers > 0)
             workers.workers = options.workers;
         workers.volumeRoots = &NxFileProbe::volumeRoots;
         return workers;
+    }
+
+    void ensurePreviews()
+    {
+        if (previews)
+            return;
+        NxPreviewSettings settings;
+        settings.program = [] { return NxWorkerLocation::find(); };
+        settings.cacheFolder = pictureFolder();
+        previews = std::make_unique<NxPreviewService>(std::move(settings));
     }
 
     NxResult<INxProject *> takeOver(NxResult<std::unique_ptr<NxProjectStore>> store)
@@ -89,6 +107,7 @@ public:
 
     const NxEmbeddedEngine::Options options;
     std::unique_ptr<NxEngineProject> project;
+    std::unique_ptr<NxPreviewService> previews; // Since the first clip for one.
     bool isClosing = false;
     const NxEngineThumbManager::Current pictures = std::make_shared<QPointer<NxPictureService>>();
 };
@@ -141,6 +160,23 @@ NxResult<void> NxEmbeddedEngine::closeProject()
 INxProject *NxEmbeddedEngine::currentProject()
 {
     return d->project.get();
+}
+
+INxClip *NxEmbeddedEngine::createVideoClip(const QString &path)
+{
+    if (path.isEmpty())
+        return nullptr;
+    d->ensurePreviews();
+    return new NxPreviewClip(path);
+}
+
+INxTimeline *NxEmbeddedEngine::createTimeline(INxClip *clip)
+{
+    auto *preview = dynamic_cast<NxPreviewClip *>(clip);
+    if (!preview || preview->timeline())
+        return nullptr;
+    d->ensurePreviews();
+    return new NxPreviewTimeline(d->previews.get(), std::unique_ptr<NxPreviewClip>(preview));
 }
 
 INxBsThumbManager *NxEmbeddedEngine::createThumbManager()

@@ -42,6 +42,8 @@ public:
     NxResult<INxProject *> openProject(const QString &path, NxProjectOpenMode mode) override;
     NxResult<void> closeProject() override;
     INxProject *currentProject() override;
+    INxClip *createVideoClip(const QString &path) override;
+    INxTimeline *createTimeline(INxClip *clip) override;
     INxBsThumbManager *createThumbManager() override;
 
     /// What could not be read when the current project was opened; empty when all could.

@@ -12,6 +12,13 @@ QImage INxBsThumbManager::filmStrip(INxAbstractMedia * /*media*/)
     return {};
 }
 
+bool INxBsThumbManager::servesFilmStrips() const
+{
+    return false;
+}
+
+void INxBsThumbManager::setArrivalTeller(ArrivalTeller /*teller*/) {}
+
 INxBsThumbManager *createBsThumbManager()
 {
     INxMediaEngine *engine = NxMediaEngineDoor::engine();

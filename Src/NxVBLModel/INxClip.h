@@ -17,8 +17,9 @@ class NXVBLMODEL_EXPORT INxClip
 public:
     virtual ~INxClip();
 
-    /// A clip over a whole file, for previews; null when the file cannot be opened or no engine
-    /// is installed. The caller owns it.
+    /// A clip over a whole file, for previews. The file is not looked at before a timeline shows
+    /// the clip; one that cannot be played has no frames there. Null when the path is empty or no
+    /// engine is installed. The caller owns it.
     [[nodiscard]] static INxClip *createVideoClip(const QString &path);
 
     /// NXVBLMODEL::NxClipKind.

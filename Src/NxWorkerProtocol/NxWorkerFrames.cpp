@@ -25,7 +25,8 @@ std::optional<NxWorkerFrames::Frame> NxWorkerFrames::take()
         return std::nullopt;
     const quint32 length = qFromLittleEndian<quint32>(m_bytes.constData());
     const quint8 word = quint8(m_bytes.at(LengthBytes));
-    const bool isWord = word >= quint8(NxWorkerWord::Hello) && word <= quint8(NxWorkerWord::Answer);
+    const bool isWord =
+        word >= quint8(NxWorkerWord::Hello) && word <= quint8(NxWorkerWord::PreviewRested);
     if (!isWord || length > NxWorkerProtocol::LongestMessage) {
         m_broken = true;
         return std::nullopt;

@@ -2,11 +2,12 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include <NxWorkerProtocol/NxWorkerMessages.h>
 
-#include <QDataStream>
+#include <NxWorkerProtocol/NxMessageForm.h>
+
+using NxMessageForm::wasRead;
+using NxMessageForm::written;
 
 namespace {
-
-constexpr auto Form = QDataStream::Qt_5_15;
 
 template<typename Enum>
 void readEnum(QDataStream &in, Enum *value, Enum last)
@@ -60,26 +61,6 @@ QDataStream &operator>>(QDataStream &in, NxPictureAnswer &picture)
     return in >> picture.reason;
 }
 
-template<typename Write>
-QByteArray written(Write write)
-{
-    QByteArray bytes;
-    QDataStream out(&bytes, QIODevice::WriteOnly);
-    out.setVersion(Form);
-    write(out);
-    return bytes;
-}
-
-/// True when `read` took all of the bytes and no more.
-template<typename Read>
-bool wasRead(const QByteArray &bytes, Read read)
-{
-    QDataStream in(bytes);
-    in.setVersion(Form);
-    read(in);
-    return in.status() == QDataStream::Ok && in.atEnd();
-}
-
 } // namespace
 
 QByteArray NxWorkerMessages::packed(const NxWorkerHello &hello)
@@ -92,7 +73,7 @@ QByteArray NxWorkerMessages::packed(const NxWorkerHello &hello)
 bool NxWorkerMessages::unpack(const QByteArray &bytes, NxWorkerHello *hello)
 {
     QDataStream in(bytes);
-    in.setVersion(Form);
+    in.setVersion(NxMessageForm::Version);
     in >> hello->version;
     if (in.status() == QDataStream::Ok && hello->version != NxWorkerProtocol::Version)
         return true; // What follows in another version is not for us.

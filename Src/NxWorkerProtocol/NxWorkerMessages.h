@@ -16,6 +16,12 @@ enum class NxWorkerWord : quint8 {
     Request = 2, ///< To the worker.
     Opened = 3, ///< From the worker: the file was opened, its disk answers.
     Answer = 4, ///< From the worker, one for each request, in their order.
+    // Previews; see NxPreviewMessages.h.
+    PreviewOpen = 5, ///< To the worker.
+    PreviewShow = 6, ///< To the worker.
+    PreviewOpened = 7, ///< From the worker.
+    PreviewFrame = 8, ///< From the worker.
+    PreviewRested = 9, ///< From the worker.
 };
 
 namespace NxWorkerProtocol {

@@ -3,8 +3,8 @@
 #pragma once
 
 #include <NxWorkerProtocol/NxWorkerExit.h>
-#include <NxWorkerProtocol/NxWorkerFrames.h>
 #include <brevano-worker/Reading.h>
+#include <brevano-worker/pipe/WorkerPipe.h>
 
 #include <QString>
 
@@ -18,13 +18,8 @@ public:
     [[nodiscard]] NxWorkerExit run(const NxWorkerHello &hello);
 
 private:
-    [[nodiscard]] bool send(NxWorkerWord word, const QByteArray &bytes) const;
-    /// False at the end of the pipe.
-    [[nodiscard]] bool receive();
     [[nodiscard]] bool handle(const NxWorkerFrames::Frame &frame) const;
 
-    const int m_in;
-    const int m_out;
+    WorkerPipe m_pipe;
     const Reading m_reading;
-    NxWorkerFrames m_frames;
 };

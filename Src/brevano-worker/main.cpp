@@ -1,8 +1,12 @@
 // SPDX-FileCopyrightText: 2026 Brevano contributors
 // SPDX-License-Identifier: LGPL-2.1-or-later
+#include <NxWorkerProtocol/NxPreviewMessages.h>
+#include <NxWorkerProtocol/NxSharedMemory.h>
+#include <NxWorkerProtocol/NxWorkerExit.h>
 #include <brevano-worker/WorkerLoop.h>
 #include <brevano-worker/guard/Confinement.h>
 #include <brevano-worker/guard/ProcessWatch.h>
+#include <brevano-worker/preview/PreviewLoop.h>
 
 #include <QCoreApplication>
 #include <QDir>
@@ -10,10 +14,13 @@
 
 #include <csignal>
 #include <cstdio>
+#include <cstring>
 #include <fcntl.h>
+#include <memory>
 #include <new>
 #include <sys/resource.h>
 #include <unistd.h>
+#include <utility>
 
 extern "C" {
 #include <libavutil/log.h>
@@ -35,7 +42,7 @@ void limit(Resource resource, rlim_t most)
         std::perror("brevano-worker: setrlimit");
 }
 
-void limitResources()
+void limitResources(bool isWaitedFor)
 {
     constexpr rlim_t mostAddresses = 8ULL * 1024 * 1024 * 1024;
     limit(RLIMIT_CORE, 0);
@@ -43,7 +50,7 @@ void limitResources()
         limit(RLIMIT_AS, mostAddresses);
     std::set_new_handler([] { ::_exit(int(NxWorkerExit::TooMuchMemory)); });
     constexpr int background = 10;
-    if (::setpriority(PRIO_PROCESS, 0, background) != 0)
+    if (!isWaitedFor && ::setpriority(PRIO_PROCESS, 0, background) != 0)
         std::perror("brevano-worker: setpriority");
 }
 
@@ -63,14 +70,28 @@ int takeOutput()
 
 } // namespace
 
-/// brevano-worker CACHE_FOLDER: started by the editor, speaks over its standard streams.
+/// brevano-worker CACHE_FOLDER [--preview MEMORY]: started by the editor, speaks over its standard
+/// streams. Reads footage, or plays it into a memory that it shares with the editor.
 int main(int argc, char *argv[])
 {
-    if (argc != 2 || argv[1][0] == '\0') {
+    constexpr int readingArguments = 2;
+    constexpr int previewArguments = 4;
+    const bool isPreview = argc == previewArguments && std::strcmp(argv[2], "--preview") == 0;
+    if ((argc != readingArguments && !isPreview) || argv[1][0] == '\0') {
         std::fprintf(stderr, "brevano-worker is started by the editor: brevano-worker FOLDER\n");
         return int(NxWorkerExit::WrongUsage);
     }
-    limitResources();
+    std::unique_ptr<NxSharedMemory> memory;
+    if (isPreview) {
+        auto attached = NxSharedMemory::attach(QString::fromLocal8Bit(argv[previewArguments - 1]),
+                                               NxPreviewSlots::MemoryBytes);
+        if (!attached) {
+            std::fprintf(stderr, "brevano-worker: %s\n", qUtf8Printable(attached.errorText()));
+            return int(NxWorkerExit::WrongUsage);
+        }
+        memory = attached.take();
+    }
+    limitResources(isPreview); // A film plays on while others are being read.
     std::signal(SIGPIPE, SIG_IGN);
     const QString cacheFolder = QDir(QFile::decodeName(argv[1])).absolutePath();
     const int output = takeOutput();
@@ -82,5 +103,7 @@ int main(int argc, char *argv[])
     hello.writesCacheOnly =
         QDir().mkpath(cacheFolder) && Confinement::writeOnlyBelow(cacheFolder);
     const ProcessWatch watch;
+    if (memory)
+        return int(PreviewLoop(STDIN_FILENO, output, std::move(memory)).run(hello));
     return int(WorkerLoop(STDIN_FILENO, output, cacheFolder).run(hello));
 }

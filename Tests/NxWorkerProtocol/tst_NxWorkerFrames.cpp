@@ -56,8 +56,11 @@ private Q_SLOTS:
 
     void everyWordGoesThrough()
     {
-        for (const NxWorkerWord word : {NxWorkerWord::Hello, NxWorkerWord::Request,
-                                        NxWorkerWord::Opened, NxWorkerWord::Answer}) {
+        for (const NxWorkerWord word :
+             {NxWorkerWord::Hello, NxWorkerWord::Request, NxWorkerWord::Opened,
+              NxWorkerWord::Answer, NxWorkerWord::PreviewOpen, NxWorkerWord::PreviewShow,
+              NxWorkerWord::PreviewOpened, NxWorkerWord::PreviewFrame,
+              NxWorkerWord::PreviewRested}) {
             NxWorkerFrames frames;
             frames.append(NxWorkerFrames::framed(word, "x"));
             const std::optional<NxWorkerFrames::Frame> frame = frames.take();
@@ -98,7 +101,7 @@ private Q_SLOTS:
     {
         QTest::addColumn<QByteArray>("bytes");
         QTest::newRow("no word") << head(0, 0);
-        QTest::newRow("a word beyond the last") << head(0, 5);
+        QTest::newRow("a word beyond the last") << head(0, quint8(NxWorkerWord::PreviewRested) + 1);
         QTest::newRow("a byte too long")
             << head(NxWorkerProtocol::LongestMessage + 1, quint8(NxWorkerWord::Answer));
         QTest::newRow("longest number") << head(0xFFFF'FFFF, quint8(NxWorkerWord::Answer));

@@ -11,16 +11,38 @@ NxEngineThumbManager::NxEngineThumbManager(Current current) : m_current(std::mov
 NxEngineThumbManager::~NxEngineThumbManager()
 {
     NxEngineThumbManager::cancelRequests();
+    if (m_told)
+        m_told->setTeller(this, {});
+}
+
+NxPictureService *NxEngineThumbManager::service()
+{
+    NxPictureService *pictures = *m_current;
+    if (pictures && m_teller && m_told != pictures) {
+        pictures->setTeller(this, m_teller);
+        m_told = pictures;
+    }
+    return pictures;
 }
 
 QImage NxEngineThumbManager::thumbnail(INxAbstractMedia *media, const QSize &devicePixels)
 {
-    return *m_current ? (*m_current)->cover(this, media, devicePixels) : QImage();
+    NxPictureService *pictures = service();
+    return pictures ? pictures->cover(this, media, devicePixels) : QImage();
 }
 
 QImage NxEngineThumbManager::filmStrip(INxAbstractMedia *media)
 {
-    return *m_current ? (*m_current)->strip(this, media) : QImage();
+    NxPictureService *pictures = service();
+    return pictures ? pictures->strip(this, media) : QImage();
+}
+
+void NxEngineThumbManager::setArrivalTeller(ArrivalTeller teller)
+{
+    if (m_told)
+        m_told->setTeller(this, {});
+    m_told.clear();
+    m_teller = std::move(teller);
 }
 
 void NxEngineThumbManager::cancelRequests()

@@ -24,8 +24,15 @@ public:
 
     QImage thumbnail(INxAbstractMedia *media, const QSize &devicePixels) override;
     QImage filmStrip(INxAbstractMedia *media) override;
+    bool servesFilmStrips() const override { return true; }
+    void setArrivalTeller(ArrivalTeller teller) override;
     void cancelRequests() override;
 
 private:
+    /// The open project's pictures, which know of the teller; null while none is open.
+    [[nodiscard]] NxPictureService *service();
+
     const Current m_current;
+    ArrivalTeller m_teller;
+    QPointer<NxPictureService> m_told; // Knows of the teller.
 };

@@ -12,6 +12,7 @@
 #include <QPointer>
 
 #include <algorithm>
+#include <utility>
 
 namespace {
 
@@ -80,10 +81,9 @@ QImage NxPictureService::picture(Asker asker, INxAbstractMedia *item, const NxPi
     if (const QImage *image = m_images.object(key))
         return *image;
     Awaited &awaited = m_awaited[key];
-    if (awaited.media.isEmpty())
+    if (awaited.askers.isEmpty())
         order(key, media, &awaited);
-    awaited.media.insert(media->id());
-    awaited.askers.insert(asker);
+    awaited.askers[media->id()].insert(asker);
     return {};
 }
 
@@ -97,14 +97,30 @@ void NxPictureService::order(const NxPictureKey &key, const NxEngineMedia *media
 
 void NxPictureService::cancelRequests(Asker asker)
 {
-    const auto isUnwanted = [this, asker](const NxPictureKey &key) {
-        QSet<Asker> &askers = m_awaited[key].askers;
-        askers.remove(asker);
-        return askers.isEmpty();
+    for (Awaited &awaited : m_awaited) {
+        for (QSet<Asker> &askers : awaited.askers)
+            askers.remove(asker);
+    }
+    const auto isUnwanted = [this](const NxPictureKey &key) {
+        return !m_awaited.value(key).isWanted();
     };
     for (const NxPictureKey &key : m_threads.dropWaiting(isUnwanted))
         m_awaited.remove(key);
     m_reader->forgetWanted();
+}
+
+void NxPictureService::setTeller(Asker asker, Teller teller)
+{
+    if (teller)
+        m_tellers.insert(asker, std::move(teller));
+    else
+        m_tellers.remove(asker);
+}
+
+bool NxPictureService::Awaited::isWanted() const
+{
+    return std::any_of(askers.begin(), askers.end(),
+                       [](const QSet<Asker> &waiting) { return !waiting.isEmpty(); });
 }
 
 void NxPictureService::takeResults()
@@ -126,8 +142,11 @@ void NxPictureService::take(const NxPictureThreads::Result &result)
     }
     keep(result);
     const QPointer<NxPictureService> self(this);
-    for (const qint64 id : awaited.media) {
-        if (NxEngineMedia *media = stillWaiting(id, result.key))
+    for (auto it = awaited.askers.begin(); it != awaited.askers.end(); ++it) {
+        tell(it.key(), result.key, it.value());
+        if (!self)
+            return;
+        if (NxEngineMedia *media = stillWaiting(it.key(), result.key))
             tell(media);
         if (!self)
             return;
@@ -152,7 +171,8 @@ NxEngineMedia *NxPictureService::stillWaiting(qint64 id, const NxPictureKey &key
 void NxPictureService::noteLoss(const NxPictureKey &key, const Awaited &awaited)
 {
     const QPointer<NxPictureService> self(this);
-    for (const qint64 id : awaited.media) {
+    for (auto it = awaited.askers.begin(); it != awaited.askers.end(); ++it) {
+        const qint64 id = it.key();
         const bool isForGood = id == awaited.madeAgainFor;
         if (isForGood)
             m_lost[sizeless(key)].remove(id); // Should somebody want it tried again.
@@ -177,6 +197,19 @@ void NxPictureService::noteLoss(NxEngineMedia *media, NxPictureKind kind, bool i
     (isCover ? record.coverReason : record.stripReason) = QCoreApplication::translate(
         "NxPictureService", "The picture was made but cannot be loaded from the cache folder.");
     m_memory->setFootage(media, record);
+}
+
+void NxPictureService::tell(qint64 id, const NxPictureKey &key, const QSet<Asker> &askers)
+{
+    const QPointer<NxPictureService> self(this);
+    for (const Asker asker : askers) {
+        const Teller teller = m_tellers.value(asker);
+        NxEngineMedia *media = teller ? stillWaiting(id, key) : nullptr;
+        if (media)
+            teller(media);
+        if (!self)
+            return;
+    }
 }
 
 void NxPictureService::tell(NxEngineMedia *media)

@@ -13,6 +13,8 @@
 #include <QObject>
 #include <QSet>
 
+#include <functional>
+
 class INxAbstractMedia;
 class NxEngineMedia;
 class NxFootageReader;
@@ -33,6 +35,7 @@ public:
     /// Tells those apart who ask, so that one gives up nothing that another one waits for. Never
     /// looked into.
     using Asker = const void *;
+    using Teller = std::function<void(INxAbstractMedia *)>;
 
     /// Memory and reader must outlive the service.
     NxPictureService(NxProjectMemory *memory, NxFootageReader *reader, Limits limits);
@@ -44,13 +47,17 @@ public:
     [[nodiscard]] QImage strip(Asker asker, INxAbstractMedia *media);
     /// What nobody but the asker waits for, and did not come yet, is not fetched.
     void cancelRequests(Asker asker);
+    /// Is told of each picture that this asker waits for, when it has come. May do anything, even
+    /// close the project. An empty one is forgotten.
+    void setTeller(Asker asker, Teller teller);
 
 private:
     /// Who waits for a picture that is being fetched.
     struct Awaited
     {
-        QSet<qint64> media;
-        QSet<Asker> askers;
+        [[nodiscard]] bool isWanted() const;
+
+        QHash<qint64, QSet<Asker>> askers; // By media; none is left of those that gave up.
         qint64 madeAgainFor = 0; // The media for which it was made again before it was ordered.
     };
 
@@ -62,6 +69,7 @@ private:
     void noteLoss(const NxPictureKey &key, const Awaited &awaited);
     void noteLoss(NxEngineMedia *media, NxPictureKind kind, bool isForGood);
     [[nodiscard]] NxEngineMedia *stillWaiting(qint64 id, const NxPictureKey &key) const;
+    void tell(qint64 id, const NxPictureKey &key, const QSet<Asker> &askers);
     void tell(NxEngineMedia *media);
     void trimFolder();
 
@@ -70,6 +78,7 @@ private:
     const Limits m_limits;
     QCache<NxPictureKey, QImage> m_images; // By KiB.
     QHash<NxPictureKey, Awaited> m_awaited;
+    QHash<Asker, Teller> m_tellers;
     QHash<NxPictureKey, QSet<qint64>> m_lost; // Media whose picture was gone: it is made again.
     NxDoorbell m_bell;
     NxPictureThreads m_threads;

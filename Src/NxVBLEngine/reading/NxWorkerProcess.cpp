@@ -14,14 +14,44 @@ namespace {
 
 constexpr int LongestFarewell = 1'000; // ms
 
+/// A process that keeps the memory that its program is to share.
+class SharingProcess final : public QProcess
+{
+public:
+    explicit SharingProcess(std::shared_ptr<const NxSharedMemory> memory)
+        : m_memory(std::move(memory))
+    {
+    }
+
+protected:
+    void setupChildProcess() override
+    {
+        if (m_memory)
+            m_memory->passOn();
+    }
+
+private:
+    const std::shared_ptr<const NxSharedMemory> m_memory;
+};
+
+bool isOfPreviews(NxWorkerWord word)
+{
+    return word >= NxWorkerWord::PreviewOpened;
+}
+
 } // namespace
 
-NxWorkerProcess::NxWorkerProcess(QString program, QString cacheFolder)
+NxWorkerProcess::NxWorkerProcess(QString program, QString cacheFolder,
+                                 std::shared_ptr<const NxSharedMemory> memory)
     : m_program(std::move(program))
-    , m_process(std::make_unique<QProcess>())
+    , m_isPlaying(memory != nullptr)
+    , m_process(std::make_unique<SharingProcess>(memory))
 {
+    QStringList arguments{std::move(cacheFolder)};
+    if (memory)
+        arguments += {QStringLiteral("--preview"), memory->name()};
     m_process->setProgram(m_program);
-    m_process->setArguments({std::move(cacheFolder)});
+    m_process->setArguments(arguments);
     m_process->setProcessChannelMode(QProcess::ForwardedErrorChannel);
     connect(m_process.get(), &QProcess::readyReadStandardOutput, this, &NxWorkerProcess::onBytes);
     connect(m_process.get(), qOverload<int, QProcess::ExitStatus>(&QProcess::finished), this,
@@ -54,8 +84,12 @@ void NxWorkerProcess::ask(const NxReadRequest &request)
 {
     NxDiskBan::note("NxWorkerProcess::ask");
     m_isReady = false;
-    m_process->write(
-        NxWorkerFrames::framed(NxWorkerWord::Request, NxWorkerMessages::packed(request)));
+    say(NxWorkerWord::Request, NxWorkerMessages::packed(request));
+}
+
+void NxWorkerProcess::say(NxWorkerWord word, const QByteArray &bytes)
+{
+    m_process->write(NxWorkerFrames::framed(word, bytes));
 }
 
 void NxWorkerProcess::close()
@@ -90,9 +124,11 @@ void NxWorkerProcess::take(const NxWorkerFrames::Frame &frame)
     quint64 number = 0;
     if (!m_greeted && frame.word == NxWorkerWord::Hello) {
         greet(frame.bytes);
-    } else if (m_greeted && frame.word == NxWorkerWord::Answer) {
+    } else if (m_greeted && m_isPlaying && isOfPreviews(frame.word)) {
+        Q_EMIT said(frame);
+    } else if (m_greeted && !m_isPlaying && frame.word == NxWorkerWord::Answer) {
         takeAnswer(frame.bytes);
-    } else if (m_greeted && frame.word == NxWorkerWord::Opened
+    } else if (m_greeted && !m_isPlaying && frame.word == NxWorkerWord::Opened
         && NxWorkerMessages::unpackOpened(frame.bytes, &number)) {
         Q_EMIT opened(number);
     } else {

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <NxVBLEngine/NxVBLEngineExport.h>
+#include <NxWorkerProtocol/NxSharedMemory.h>
 #include <NxWorkerProtocol/NxWorkerFrames.h>
 
 #include <QObject>
@@ -27,7 +28,9 @@ class NXVBLENGINE_TEST_EXPORT NxWorkerProcess final : public QObject
 {
     Q_OBJECT
 public:
-    NxWorkerProcess(QString program, QString cacheFolder);
+    /// With a memory, which is handed to it: one that plays films and is spoken to by say().
+    NxWorkerProcess(QString program, QString cacheFolder,
+                    std::shared_ptr<const NxSharedMemory> memory = nullptr);
     /// Ends the program. One that cannot even be killed, because it waits for a disk without end,
     /// is left to the system.
     ~NxWorkerProcess() override;
@@ -42,6 +45,7 @@ public:
     [[nodiscard]] qint64 processId() const;
     [[nodiscard]] bool isRunning() const { return m_process->state() != QProcess::NotRunning; }
     void ask(const NxReadRequest &request);
+    void say(NxWorkerWord word, const QByteArray &bytes);
     /// Lets it go when it has no work; ended() follows.
     void close();
     void kill();
@@ -50,6 +54,8 @@ Q_SIGNALS:
     void ready();
     void opened(quint64 number);
     void answered(const NxReadAnswer &answer);
+    /// One that plays films said something.
+    void said(const NxWorkerFrames::Frame &frame);
     /// It is of no more use, though it may still run for a moment. Once; `why` is a sentence for
     /// the log.
     void ended(NxWorkerEnd end, const QString &why);
@@ -66,6 +72,7 @@ private:
     void end(NxWorkerEnd end, const QString &why);
 
     const QString m_program;
+    const bool m_isPlaying;
     std::unique_ptr<QProcess> m_process;
     NxWorkerFrames m_frames;
     NxWorkerHello m_hello;

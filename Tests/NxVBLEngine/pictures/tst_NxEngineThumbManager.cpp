@@ -90,6 +90,13 @@ private Q_SLOTS:
     void aHandleOutlivesProjectAndEngine();
     void oneHandleGivesUpNothingOfAnothers();
     void withoutAProjectThereAreNoPictures();
+    void whoAskedIsToldWhenAPictureComes();
+    void onlyWhoAskedIsTold();
+    void whoGaveUpIsNotTold();
+    void theNextProjectTellsAsWell();
+    void whoIsToldMayDoAnything_data();
+    void whoIsToldMayDoAnything();
+    void nobodyIsToldAfterwards();
 };
 
 void tst_NxEngineThumbManager::aHandleMadeBeforeAProjectServesIt()
@@ -180,6 +187,141 @@ void tst_NxEngineThumbManager::withoutAProjectThereAreNoPictures()
     QVERIFY(handle->thumbnail(nullptr, Small).isNull());
     QVERIFY(handle->filmStrip(nullptr).isNull());
     handle->cancelRequests();
+}
+
+void tst_NxEngineThumbManager::whoAskedIsToldWhenAPictureComes()
+{
+    Library f;
+    const Handle handle = newHandle();
+    QVERIFY(handle->servesFilmStrips());
+    QVector<INxAbstractMedia *> told;
+    QVector<QSize> had;
+    handle->setArrivalTeller([&](INxAbstractMedia *media) {
+        told.append(media);
+        had.append(handle->filmStrip(media).size());
+    });
+    f.createProject(QStringLiteral("a.brevano"));
+    NxEngineMedia *media = f.addMade(1);
+    QVERIFY(handle->filmStrip(media).isNull());
+    QVERIFY(handle->filmStrip(media).isNull());
+    QTRY_COMPARE(told, QVector<INxAbstractMedia *>{media});
+    QCOMPARE(had, QVector<QSize>{WholeStrip}); // It may be had at once.
+    QVERIFY(!handle->filmStrip(media).isNull());
+    QVERIFY(handle->thumbnail(media, Small).isNull());
+    QTRY_COMPARE(told.size(), 2);
+}
+
+void tst_NxEngineThumbManager::onlyWhoAskedIsTold()
+{
+    Library f;
+    f.createProject(QStringLiteral("a.brevano"));
+    NxEngineMedia *media = f.addMade(1);
+    NxEngineMedia *copy = f.addMade(1);
+    NxEngineMedia *other = f.addMade(2);
+    const Handle one = newHandle();
+    const Handle another = newHandle();
+    QVector<INxAbstractMedia *> toldOne;
+    QVector<INxAbstractMedia *> toldAnother;
+    one->setArrivalTeller([&](INxAbstractMedia *come) { toldOne.append(come); });
+    another->setArrivalTeller([&](INxAbstractMedia *come) { toldAnother.append(come); });
+    QVERIFY(one->filmStrip(media).isNull());
+    QVERIFY(another->filmStrip(copy).isNull()); // One picture serves both.
+    QVERIFY(another->filmStrip(other).isNull());
+    QTRY_COMPARE(toldAnother.size(), 2);
+    QVERIFY(toldAnother.contains(copy));
+    QVERIFY(toldAnother.contains(other));
+    QTRY_COMPARE(toldOne, QVector<INxAbstractMedia *>{media});
+}
+
+void tst_NxEngineThumbManager::whoGaveUpIsNotTold()
+{
+    Library f;
+    f.createProject(QStringLiteral("a.brevano"));
+    NxEngineMedia *media = f.addMade(1);
+    const Handle one = newHandle();
+    const Handle another = newHandle();
+    int toldOne = 0;
+    int toldAnother = 0;
+    one->setArrivalTeller([&](INxAbstractMedia *) { ++toldOne; });
+    another->setArrivalTeller([&](INxAbstractMedia *) { ++toldAnother; });
+    QVERIFY(one->filmStrip(media).isNull());
+    QVERIFY(another->filmStrip(media).isNull());
+    one->cancelRequests(); // Also if it is being fetched already.
+    QTRY_COMPARE(toldAnother, 1);
+    QCOMPARE(toldOne, 0);
+}
+
+void tst_NxEngineThumbManager::theNextProjectTellsAsWell()
+{
+    Library f;
+    f.createProject(QStringLiteral("a.brevano"));
+    const Handle handle = newHandle();
+    int told = 0;
+    handle->setArrivalTeller([&](INxAbstractMedia *) { ++told; });
+    QVERIFY(handle->filmStrip(f.addMade(1)).isNull());
+    QTRY_COMPARE(told, 1);
+    QVERIFY(f.engine->closeProject());
+    f.createProject(QStringLiteral("b.brevano"));
+    QVERIFY(handle->filmStrip(f.addMade(2)).isNull());
+    QTRY_COMPARE(told, 2);
+}
+
+void tst_NxEngineThumbManager::whoIsToldMayDoAnything_data()
+{
+    QTest::addColumn<QString>("what");
+    QTest::newRow("let go of the handle") << QStringLiteral("release");
+    QTest::newRow("tell somebody else") << QStringLiteral("replace");
+    QTest::newRow("close the project") << QStringLiteral("close");
+}
+
+void tst_NxEngineThumbManager::whoIsToldMayDoAnything()
+{
+    QFETCH(QString, what);
+    Library f;
+    f.createProject(QStringLiteral("a.brevano"));
+    Handle handle = newHandle();
+    int told = 0;
+    handle->setArrivalTeller([&](INxAbstractMedia *) {
+        ++told;
+        if (what == QLatin1String("release"))
+            handle.reset();
+        else if (what == QLatin1String("replace"))
+            handle->setArrivalTeller([&](INxAbstractMedia *) { told += 10; });
+        else
+            QVERIFY(f.engine->closeProject());
+    });
+    QVERIFY(handle->filmStrip(f.addMade(1)).isNull());
+    QVERIFY(handle->filmStrip(f.addMade(2)).isNull());
+    if (what != QLatin1String("replace")) {
+        QTRY_COMPARE(told, 1);
+        return;
+    }
+    QTRY_VERIFY(told > 0);
+    QVERIFY(handle->filmStrip(f.addMade(3)).isNull()); // Asked for through the new one.
+    QTRY_VERIFY(told > 10);
+}
+
+void tst_NxEngineThumbManager::nobodyIsToldAfterwards()
+{
+    Library f;
+    f.createProject(QStringLiteral("a.brevano"));
+    NxEngineMedia *media = f.addMade(1);
+    const Handle witness = newHandle();
+    int told = 0;
+    int seen = 0;
+    witness->setArrivalTeller([&](INxAbstractMedia *) { ++seen; });
+    {
+        const Handle handle = newHandle();
+        handle->setArrivalTeller([&](INxAbstractMedia *) { ++told; });
+        QVERIFY(handle->filmStrip(media).isNull());
+    }
+    const Handle silent = newHandle();
+    silent->setArrivalTeller([&](INxAbstractMedia *) { ++told; });
+    QVERIFY(silent->filmStrip(media).isNull());
+    silent->setArrivalTeller({});
+    QVERIFY(witness->filmStrip(media).isNull());
+    QTRY_COMPARE(seen, 1);
+    QCOMPARE(told, 0);
 }
 
 NX_TEST_MAIN(tst_NxEngineThumbManager)

@@ -1,0 +1,3 @@
+list(APPEND BREVANO_WORKER_SOURCES
+    pipe/WorkerPipe.cpp
+    pipe/WorkerPipe.h)
