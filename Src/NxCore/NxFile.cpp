@@ -36,12 +36,18 @@ bool NxFile::exists(const QString &path)
 {
     if (path.isEmpty())
         return false;
-    if (const std::shared_ptr<const Answerer> answerer = currentAnswerer()) {
-        if (const std::optional<bool> known = (*answerer)(path))
-            return *known;
-    }
+    if (const std::optional<bool> known = knownToExist(path))
+        return *known;
     NxDiskBan::note("NxFile::exists");
     return QFileInfo::exists(path);
+}
+
+std::optional<bool> NxFile::knownToExist(const QString &path)
+{
+    if (path.isEmpty())
+        return false;
+    const std::shared_ptr<const Answerer> answerer = currentAnswerer();
+    return answerer ? (*answerer)(path) : std::nullopt;
 }
 
 void NxFile::setAnswerer(Answerer answerer)

@@ -21,6 +21,10 @@ public:
     /// look at the disk, which NxDiskBan notes. False for an empty path. From any thread.
     [[nodiscard]] static bool exists(const QString &path);
 
+    /// The installed answerer's word, and nothing where it has none: never looks at a disk. For
+    /// what is painted. From any thread.
+    [[nodiscard]] static std::optional<bool> knownToExist(const QString &path);
+
     /// Installs the one answerer of the process, in place of the one before; an empty function
     /// takes it away. The engine installs one that knows the last state of every media of the
     /// open project.

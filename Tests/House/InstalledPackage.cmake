@@ -1,5 +1,5 @@
 # Installs the build into an empty prefix, moves the prefix (an installed package may lie anywhere),
-# builds Docs/embedding/ against it alone, and runs the program.
+# builds Docs/embedding/ and a program that paints a row against it alone, and runs both.
 #
 # Needs BUILD_DIR, SOURCE_DIR, WORK_DIR and BUILD_TYPE.
 cmake_minimum_required(VERSION 3.25)
@@ -14,7 +14,6 @@ function(step what)
 endfunction()
 
 set(prefix ${WORK_DIR}/prefix)
-set(example ${WORK_DIR}/embedding)
 file(REMOVE_RECURSE ${WORK_DIR})
 file(MAKE_DIRECTORY ${WORK_DIR})
 if(NOT EXISTS ${SOURCE_DIR}/Docs/embedding/CMakeLists.txt)
@@ -23,30 +22,37 @@ endif()
 
 step("Installing" ${CMAKE_COMMAND} --install ${BUILD_DIR} --prefix ${WORK_DIR}/installed)
 file(RENAME ${WORK_DIR}/installed ${prefix})
-file(COPY ${SOURCE_DIR}/Docs/embedding DESTINATION ${WORK_DIR} PATTERN build EXCLUDE)
+# build_and_run(FOLDER)   A project of the source tree whose program has the folder's name.
+function(build_and_run folder)
+    cmake_path(GET folder FILENAME name)
+    set(example ${WORK_DIR}/${name})
+    file(COPY ${folder} DESTINATION ${WORK_DIR} PATTERN build EXCLUDE)
+    step("Configuring ${name}" ${CMAKE_COMMAND} -S ${example} -B ${example}/build -G Ninja
+        -DCMAKE_BUILD_TYPE=${BUILD_TYPE} -DCMAKE_PREFIX_PATH=${prefix}
+        -DCMAKE_EXPORT_COMPILE_COMMANDS=ON)
+    step("Building ${name}" ${CMAKE_COMMAND} --build ${example}/build)
 
-step("Configuring the example" ${CMAKE_COMMAND} -S ${example} -B ${example}/build -G Ninja
-    -DCMAKE_BUILD_TYPE=${BUILD_TYPE} -DCMAKE_PREFIX_PATH=${prefix}
-    -DCMAKE_EXPORT_COMPILE_COMMANDS=ON)
-step("Building the example" ${CMAKE_COMMAND} --build ${example}/build)
-
-# Not a header of the source tree may have helped, nor a library of the build tree.
-file(READ ${example}/build/compile_commands.json commands)
-file(READ ${example}/build/build.ninja links)
-foreach(forbidden "${SOURCE_DIR}/Src" "${BUILD_DIR}/generated" "${BUILD_DIR}/lib/")
-    string(FIND "${commands}${links}" "${forbidden}" position)
-    if(NOT position EQUAL -1)
-        message(FATAL_ERROR "The example was built with ${forbidden}, not with the package alone.")
+    # Not a header of the source tree may have helped, nor a library of the build tree.
+    file(READ ${example}/build/compile_commands.json commands)
+    file(READ ${example}/build/build.ninja links)
+    foreach(forbidden "${SOURCE_DIR}/Src" "${BUILD_DIR}/generated" "${BUILD_DIR}/lib/")
+        string(FIND "${commands}${links}" "${forbidden}" position)
+        if(NOT position EQUAL -1)
+            message(FATAL_ERROR "${name} was built with ${forbidden}, not with the package alone.")
+        endif()
+    endforeach()
+    string(FIND "${commands}" "${prefix}/" position)
+    if(position EQUAL -1)
+        message(FATAL_ERROR "${name} was not built with the installed headers.")
     endif()
-endforeach()
-string(FIND "${commands}" "${prefix}/" position)
-if(position EQUAL -1)
-    message(FATAL_ERROR "The example was not built with the installed headers.")
-endif()
 
-step("Running the example" ${CMAKE_COMMAND} -E env --unset=LD_LIBRARY_PATH
-    ${example}/build/embedding)
-message("${step_output}")
+    step("Running ${name}" ${CMAKE_COMMAND} -E env --unset=LD_LIBRARY_PATH
+        ${example}/build/${name})
+    message("${step_output}")
+endfunction()
+
+build_and_run(${SOURCE_DIR}/Docs/embedding)
+build_and_run(${SOURCE_DIR}/Tests/House/installedViews)
 
 # The installed program finds the installed worker, and reads a file with it.
 file(WRITE ${WORK_DIR}/words.srt "1\n00:00:01,000 --> 00:00:02,000\nHello\n")

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include <NxCore/NxFile.h>
 
+#include <NxCore/NxDiskBan.h>
+
 #include <Support/NxTempDir.h>
 #include <Support/NxTestMain.h>
 
@@ -16,6 +18,7 @@ private Q_SLOTS:
     void looksAtTheDisk();
     void believesTheAnswerer();
     void looksItselfWhereTheAnswererKnowsNothing();
+    void knowsWhatTheAnswererKnowsAndNothingElse();
     void asksNobodyAboutAnEmptyPath();
     void mayAskWhileTheAnswererChanges();
 
@@ -55,6 +58,24 @@ void tst_NxFile::looksItselfWhereTheAnswererKnowsNothing()
     QVERIFY(NxFile::exists(present));
     QVERIFY(!NxFile::exists(dir.filePath(QStringLiteral("missing.mp4"))));
     QCOMPARE(asked, 2);
+}
+
+void tst_NxFile::knowsWhatTheAnswererKnowsAndNothingElse()
+{
+    const NxTempDir dir;
+    const QString present = dir.write(QStringLiteral("present.mp4"));
+    const QString missing = dir.filePath(QStringLiteral("missing.mp4"));
+    const NxDiskBan ban;
+    QCOMPARE(NxFile::knownToExist(present), std::nullopt);
+    NxFile::setAnswerer([&](const QString &path) -> std::optional<bool> {
+        return path == present ? std::nullopt : std::optional<bool>(path == missing);
+    });
+    QCOMPARE(NxFile::knownToExist(present), std::nullopt);
+    QCOMPARE(NxFile::knownToExist(missing), std::optional<bool>(true));
+    QCOMPARE(NxFile::knownToExist(dir.filePath(QStringLiteral("gone"))),
+             std::optional<bool>(false));
+    QCOMPARE(NxFile::knownToExist({}), std::optional<bool>(false));
+    QCOMPARE(ban.breaches(), QStringList());
 }
 
 void tst_NxFile::asksNobodyAboutAnEmptyPath()

@@ -11,79 +11,29 @@
 #include <NxMediaLibrary/NxMediaLibraryPresenter/NxMediaCategoryPresenter.h>
 #include <NxMediaLibrary/NxMediaLibraryPresenter/NxMediaItemManagerPresenter.h>
 #include <NxMediaLibrary/NxMediaLibraryPresenter/NxMediaLibraryPresenter.h>
+#include <NxMediaLibrary/delegate/NxMediaItemDelegate.h>
+#include <NxMediaViews/NxMediaFolderTreeDelegate.h>
 #include <NxVBLModel/INxAbstractMediaItem.h>
 #include <NxVBLModel/INxFolderMediaManager.h>
+#include <NxVBLModel/INxGroupMedia.h>
 #include <NxVBLModel/INxMediaImporter.h>
 #include <NxVBLModel/INxMediaManager.h>
 #include <NxVBLModel/INxProject.h>
 #include <NxVBLModel/INxProjectManager.h>
+#include <NxVBLModel/NxMediaIndex.h>
 
 #include <QHBoxLayout>
-#include <QLineEdit>
-#include <QListView>
 #include <QShortcut>
-#include <QStyledItemDelegate>
 #include <QTreeView>
 
 #include <functional>
-#include <utility>
+
+#include "PanelList.h"
 
 using Folders = NxFolderMediaManagerPresenter;
 using Items = NxMediaItemManagerPresenter;
 
 namespace {
-
-INxAbstractMedia *mediaAt(const QModelIndex &index)
-{
-    return static_cast<INxAbstractMedia *>(index.internalPointer());
-}
-
-INxFolderMedia *folderAt(const QModelIndex &index)
-{
-    return static_cast<INxFolderMedia *>(index.internalPointer());
-}
-
-/// Draws names, which the models leave to the views, and has them edited.
-class NameDelegate final : public QStyledItemDelegate
-{
-public:
-    using NameOf = std::function<QString(const QModelIndex &)>;
-    using Rename = std::function<void(const QModelIndex &, const QString &)>;
-
-    NameDelegate(NameOf nameOf, Rename rename, QObject *parent)
-        : QStyledItemDelegate(parent),
-          m_nameOf(std::move(nameOf)),
-          m_rename(std::move(rename))
-    {
-    }
-
-    QWidget *createEditor(QWidget *parent, const QStyleOptionViewItem &,
-                          const QModelIndex &) const override
-    {
-        return new QLineEdit(parent);
-    }
-    void setEditorData(QWidget *editor, const QModelIndex &index) const override
-    {
-        static_cast<QLineEdit *>(editor)->setText(m_nameOf(index));
-    }
-    void setModelData(QWidget *editor, QAbstractItemModel *,
-                      const QModelIndex &index) const override
-    {
-        m_rename(index, static_cast<QLineEdit *>(editor)->text());
-    }
-
-protected:
-    void initStyleOption(QStyleOptionViewItem *option, const QModelIndex &index) const override
-    {
-        QStyledItemDelegate::initStyleOption(option, index);
-        option->features |= QStyleOptionViewItem::HasDisplay;
-        option->text = m_nameOf(index);
-    }
-
-private:
-    const NameOf m_nameOf;
-    const Rename m_rename;
-};
 
 INxUndoStack *history()
 {
@@ -95,7 +45,7 @@ INxUndoStack *history()
 
 MediaPanel::MediaPanel(NxMediaLibraryPresenter *library)
     : m_library(library),
-      m_list(new QListView(this)),
+      m_list(new PanelList(this)),
       m_tree(new QTreeView(this)),
       m_treeModel(new NxMediaTreeModel(this))
 {
@@ -148,17 +98,16 @@ void MediaPanel::layOut()
     row->addWidget(m_list);
     m_list->setSelectionMode(QAbstractItemView::ExtendedSelection);
     m_list->setEditTriggers(QAbstractItemView::EditKeyPressed);
-    m_list->setItemDelegate(
-        new NameDelegate([](const QModelIndex &index) { return mediaAt(index)->name(); },
-                         [this](const QModelIndex &index, const QString &name) {
-                             items()->renameMediaItem(mediaAt(index), name);
-                         },
-                         this));
+    connect(m_list->delegate(), &NxMediaItemDelegate::sigMediaItemRenameEvent, this,
+            [this](const QModelIndex &index, const QString &name) {
+                items()->renameMediaItem(mediaAt(index), name);
+            });
+    connect(m_list->delegate(), &NxMediaItemDelegate::sigMediaItemEvent, this,
+            &MediaPanel::serveClick);
     connect(m_list, &QListView::doubleClicked, this, &MediaPanel::askAboutMissing);
     m_tree->setModel(m_treeModel);
     m_tree->setEditTriggers(QAbstractItemView::NoEditTriggers);
-    m_tree->setItemDelegate(new NameDelegate(
-        [](const QModelIndex &index) { return folderAt(index)->name(); }, {}, this));
+    m_tree->setItemDelegate(new NxMediaFolderTreeDelegate(this));
     connect(m_tree, &QTreeView::clicked, this, [this](const QModelIndex &index) {
         const QPointer<INxFolderMedia> picked(folderAt(index));
         items()->clearSimilarSearch();
@@ -285,6 +234,13 @@ void MediaPanel::selectRows(const QList<INxAbstractMedia *> &medias)
 void MediaPanel::tellSelection()
 {
     items()->setSelectedItems(m_selection->selectedItems());
+}
+
+void MediaPanel::serveClick(int usage, NxMediaItemEventCondition, const QModelIndex &index)
+{
+    const auto *group = dynamic_cast<const INxGroupMedia *>(mediaAt(index));
+    if (usage == mueToggleGroup && group)
+        m_model->expandStateToggle(index.row(), !group->isExpanded());
 }
 
 void MediaPanel::askAboutMissing(const QModelIndex &index)

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #pragma once
 
+#include <NxMediaLibrary/delegate/NxMediaItemEventTypes.h>
 #include <NxWidgets/NxWidgetView.h>
 
 #include <QList>
@@ -16,15 +17,16 @@ class NxMediaItemModel;
 class NxMediaItemSelectionModel;
 class NxMediaLibraryPresenter;
 class NxMediaTreeModel;
-class QListView;
+class PanelList;
 class QTreeView;
 
 /// The panel as an editor binds it: the folders of the current category beside the media of one of
 /// them, real views over the models, which follow the presenters.
 ///
-/// Delete removes what the view with the focus shows selected, F2 renames a media, a double click
-/// on one whose file is missing asks what to do, Ctrl+Z and Ctrl+Shift+Z go through the project's
-/// history. Paths that another part of the editor hands in are imported at once.
+/// A click on the arrow of a group folds and unfolds it. Delete removes what the view with the
+/// focus shows selected, F2 renames a media, a double click on one whose file is missing asks what
+/// to do, Ctrl+Z and Ctrl+Shift+Z go through the project's history. Paths that another part of the
+/// editor hands in are imported at once.
 class MediaPanel : public NxWidgetView
 {
     Q_OBJECT
@@ -36,7 +38,7 @@ public:
     /// Follows neither presenters nor project any more, and shows nothing.
     void letGo();
 
-    [[nodiscard]] QListView *list() const { return m_list; }
+    [[nodiscard]] PanelList *list() const { return m_list; }
     [[nodiscard]] QTreeView *tree() const { return m_tree; }
     [[nodiscard]] NxMediaItemModel *model() const { return m_model.get(); }
     [[nodiscard]] NxMediaItemSelectionModel *selection() const { return m_selection; }
@@ -57,10 +59,11 @@ private:
     void showFolder();
     void selectRows(const QList<INxAbstractMedia *> &medias);
     void tellSelection();
+    void serveClick(int usage, NxMediaItemEventCondition condition, const QModelIndex &index);
     void askAboutMissing(const QModelIndex &index);
 
     NxMediaLibraryPresenter *m_library; // Not owned; null once let go.
-    QListView *const m_list;
+    PanelList *const m_list;
     QTreeView *const m_tree;
     NxMediaTreeModel *const m_treeModel;
     std::unique_ptr<NxMediaItemModel> m_model; // Of the category that is shown.

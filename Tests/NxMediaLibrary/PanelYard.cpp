@@ -20,17 +20,18 @@
 #include <EngineFixture.h>
 
 #include <QApplication>
-#include <QListView>
 #include <QTest>
 #include <QTreeView>
 
+#include "PanelList.h"
+
 namespace {
 
-NxEmbeddedEngine::Options options(const NxTempDir &dir)
+NxEmbeddedEngine::Options options(const NxTempDir &dir, PanelYard::Reading reading)
 {
     NxEmbeddedEngine::Options options;
     options.backups = false;
-    options.readsFootage = false;
+    options.readsFootage = reading == PanelYard::Reading::Everything;
     options.pictureFolder = dir.filePath(QStringLiteral("pictures"));
     return options;
 }
@@ -50,7 +51,7 @@ QString nameOf(const INxFolderMedia *folder)
 
 } // namespace
 
-PanelYard::PanelYard() : m_engine(options(dir)), m_door(&m_engine)
+PanelYard::PanelYard(Reading reading) : m_engine(options(dir, reading)), m_door(&m_engine)
 {
     NxConfig::Instance()->setStore(std::make_unique<NxMemorySettingsStore>());
     NxAppSettings::instance()->setStore(std::make_unique<NxMemorySettingsStore>());
@@ -221,7 +222,7 @@ void PanelYard::clickRow(const QString &name,
     bringForward();
     const int row = panel->model()->rows(media(name)).value(0, -1);
     QVERIFY2(row >= 0, qPrintable(name));
-    QListView *list = panel->list();
+    PanelList *list = panel->list();
     const QModelIndex index = list->model()->index(row, 0);
     list->scrollTo(index);
     const QRect rect = list->visualRect(index);

@@ -26,7 +26,13 @@ class NxMediaLibraryPresenter;
 class PanelYard
 {
 public:
-    PanelYard();
+    /// What workers do with the footage.
+    enum class Reading {
+        Nothing, ///< Only what they are asked to.
+        Everything, ///< They read each file, and make its pictures.
+    };
+
+    explicit PanelYard(Reading reading = Reading::Nothing);
     ~PanelYard();
 
     /// Ends the program with the project open, and starts it again.

@@ -24,6 +24,7 @@ struct ScriptedFolder final : INxFolderMedia
         return tellsParent ? above : nullptr;
     }
     int rowInParent() const override { return row; }
+    int kind() const override { return itsKind; }
     int folderId() const override { return NXVBLMODEL::fidFirstUserFolder; }
     int childFolderCount() const override
     {
@@ -94,6 +95,7 @@ struct ScriptedFolder final : INxFolderMedia
     QString title;
     ScriptedFolder *above = nullptr;
     int row = -1; ///< What the folder says; take() and insert() keep it right.
+    int itsKind = NXVBLMODEL::fkNone;
     bool tellsParent = true;
     std::vector<std::unique_ptr<ScriptedFolder>> children;
     QList<INxAbstractMedia *> media;
