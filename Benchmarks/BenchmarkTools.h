@@ -6,6 +6,7 @@
 #include <QString>
 
 #include <algorithm>
+#include <ctime>
 #include <vector>
 
 // What several benchmark programs need.
@@ -20,6 +21,16 @@ constexpr double NanosecondsPerMillisecond = 1e6;
 inline double milliseconds(const QElapsedTimer &timer)
 {
     return double(timer.nsecsElapsed()) / NanosecondsPerMillisecond;
+}
+
+/// What this thread has worked so far, ms: what others did meanwhile on its core does not count.
+inline double workedMilliseconds()
+{
+    constexpr double nanosecondsPerSecond = 1e9;
+    timespec worked = {};
+    clock_gettime(CLOCK_THREAD_CPUTIME_ID, &worked);
+    return (double(worked.tv_sec) * nanosecondsPerSecond + double(worked.tv_nsec))
+           / NanosecondsPerMillisecond;
 }
 
 inline double median(std::vector<double> values)

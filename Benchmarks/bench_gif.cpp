@@ -1,23 +1,28 @@
 // SPDX-FileCopyrightText: 2026 Brevano contributors
 // SPDX-License-Identifier: LGPL-2.1-or-later
 
-// Sixty animated GIFs on screen. Ours hands out their frames as it does for the views; the bound
-// is as many bare QMovies, each painted whenever it shows another frame. Both paint each frame into
-// a picture of cells in the same way. CPU time of the whole program, for as many painted frames.
+// Sixty animated GIFs on screen. Ours paints the rows of the panel, names and marks included, when
+// their picture moved; the bound is as many bare QMovies, each painted, scaled to the cell,
+// whenever it shows another frame. CPU time of the whole program, for as many painted frames.
 
 #include "BenchmarkTools.h"
 
 #include <NxMediaLibrary/delegate/NxGifPreviewHelper.h>
+#include <NxMediaLibrary/delegate/NxMediaItemDelegate.h>
+#include <NxMediaViews/NxMediaItemPainter.h>
 #include <NxVBLModel/INxAbstractMediaItem.h>
+#include <NxVBLModel/NxMediaIndex.h>
 
+#include <QAbstractListModel>
+#include <QApplication>
 #include <QEventLoop>
 #include <QFile>
-#include <QGuiApplication>
 #include <QImage>
 #include <QMovie>
 #include <QPainter>
 #include <QProcess>
 #include <QStringList>
+#include <QStyleOptionViewItem>
 #include <QTemporaryDir>
 
 #include <benchmark/benchmark.h>
@@ -31,7 +36,7 @@ namespace {
 
 constexpr int Gifs = 60;
 constexpr int Columns = 10;
-constexpr QSize Cell{160, 90};
+constexpr QSize Cover{144, 81};
 constexpr int Frames = 1'500; // Painted in each turn: two seconds of all.
 constexpr int Rounds = 5;
 constexpr double MillisecondsPerSecond = 1'000;
@@ -87,55 +92,88 @@ private:
 class Screen
 {
 public:
-    void paint(int gif, const QImage &frame)
+    explicit Screen(const QSize &row)
+        : m_row(row),
+          m_picture(Columns * row.width(), Gifs / Columns * row.height(), QImage::Format_RGB32)
     {
-        const QPoint place(gif % Columns * Cell.width(), gif / Columns * Cell.height());
+    }
+    [[nodiscard]] QRect place(int gif) const
+    {
+        return {QPoint(gif % Columns * m_row.width(), gif / Columns * m_row.height()), m_row};
+    }
+    void paint(const std::function<void(QPainter *)> &draw)
+    {
         QPainter painter(&m_picture);
-        painter.setRenderHint(QPainter::SmoothPixmapTransform);
-        painter.drawImage(QRect(place, Cell), frame);
-        ++painted;
+        draw(&painter);
+        ++m_painted;
     }
     /// CPU time of that many more frames, ms.
     double timeOfFrames()
     {
-        const int end = painted + Frames;
+        const int end = m_painted + Frames;
         const std::clock_t start = std::clock();
-        while (painted < end)
+        while (m_painted < end)
             QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
         return double(std::clock() - start) * MillisecondsPerSecond / CLOCKS_PER_SEC;
     }
 
-    int painted = 0;
-
 private:
-    QImage m_picture{Columns * Cell.width(), Gifs / Columns *Cell.height(), QImage::Format_RGB32};
+    const QSize m_row;
+    QImage m_picture;
+    int m_painted = 0;
 };
 
+class GifModel final : public QAbstractListModel
+{
+public:
+    explicit GifModel(const QStringList &paths)
+    {
+        for (const QString &path : paths)
+            m_gifs.push_back(std::make_unique<Gif>(path));
+    }
+    int rowCount(const QModelIndex &) const override { return int(m_gifs.size()); }
+    QModelIndex index(int row, int column = 0, const QModelIndex & = QModelIndex()) const override
+    {
+        return createIndex(row, column, static_cast<INxAbstractMedia *>(m_gifs[size_t(row)].get()));
+    }
+    QVariant data(const QModelIndex &, int) const override { return {}; }
+
+private:
+    std::vector<std::unique_ptr<Gif>> m_gifs;
+};
+
+/// The rows as the panel draws them, names and marks included; at each tick those that moved.
 double ours(const GifFolder &folder)
 {
-    std::vector<std::unique_ptr<Gif>> media;
-    for (const QString &path : folder.paths)
-        media.push_back(std::make_unique<Gif>(path));
-    NxGifPreviewHelper *helper = NxGifPreviewHelper::getInstance();
-    Screen screen;
-    QImage frame;
-    QObject view;
-    const auto paintAll = [&] {
-        for (int i = 0; i < Gifs; ++i) {
-            if (helper->hasNewFrame(media[size_t(i)].get())
-                && helper->getImage(media[size_t(i)].get(), frame))
-                screen.paint(i, frame);
-        }
+    const GifModel model(folder.paths);
+    NxMediaItemDelegate delegate;
+    auto *look = new NxMediaItemPainter;
+    look->setViewMode(NXMEDIALIBRARY::vmMiddleThumbnail);
+    delegate.setItemPainter(look);
+    const QSize row = look->size();
+    Screen screen(row);
+    const auto paint = [&](const QModelIndex &index) {
+        QStyleOptionViewItem option;
+        option.state = QStyle::State_Enabled;
+        option.rect = screen.place(index.row());
+        screen.paint([&](QPainter *painter) { delegate.paint(painter, option, index); });
     };
-    QObject::connect(helper, &NxGifPreviewHelper::sigUpdate, &view, paintAll);
+    QObject::connect(&delegate, &NxCustomDelegate::sigRepaintAll, &delegate, [&] {
+        for (const QPersistentModelIndex &moved : look->takeGifRows())
+            paint(moved);
+    });
+    NxGifPreviewHelper *helper = NxGifPreviewHelper::getInstance();
+    QImage frame;
     const auto playing = [&] {
         int count = 0;
-        for (const auto &each : media)
-            count += helper->getImage(each.get(), frame) ? 1 : 0;
+        for (int i = 0; i < Gifs; ++i)
+            count += helper->getImage(mediaAt(model.index(i)), frame) ? 1 : 0;
         return count;
     };
     while (playing() < Gifs)
         QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+    for (int i = 0; i < Gifs; ++i)
+        paint(model.index(i));
     const double spent = screen.timeOfFrames();
     helper->stopPlay();
     helper->clear();
@@ -144,13 +182,17 @@ double ours(const GifFolder &folder)
 
 double bound(const GifFolder &folder)
 {
-    Screen screen;
+    Screen screen(Cover);
     std::vector<std::unique_ptr<QMovie>> movies;
     for (int i = 0; i < Gifs; ++i) {
         movies.push_back(std::make_unique<QMovie>(folder.paths.at(i)));
         QMovie *movie = movies.back().get();
-        QObject::connect(movie, &QMovie::frameChanged, movie,
-                         [&screen, movie, i] { screen.paint(i, movie->currentImage()); });
+        QObject::connect(movie, &QMovie::frameChanged, movie, [&screen, movie, i] {
+            screen.paint([&](QPainter *painter) {
+                painter->setRenderHint(QPainter::SmoothPixmapTransform);
+                painter->drawImage(screen.place(i), movie->currentImage());
+            });
+        });
         movie->start();
     }
     return screen.timeOfFrames();
@@ -177,7 +219,7 @@ BENCHMARK(sixtyGifs)->UseManualTime()->Iterations(Rounds)->Unit(benchmark::kMill
 int main(int argc, char **argv)
 {
     qputenv("QT_QPA_PLATFORM", "offscreen");
-    const QGuiApplication application(argc, argv);
+    const QApplication application(argc, argv);
     benchmark::Initialize(&argc, argv);
     if (benchmark::ReportUnrecognizedArguments(argc, argv))
         return 1;

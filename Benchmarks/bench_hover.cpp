@@ -117,36 +117,48 @@ double untilFirstFrame(INxPreviewFrameHelper *helper, NxEngineMedia *media)
     return milliseconds(timer);
 }
 
-double longestStep(INxPreviewFrameHelper *helper, QImage *cell)
+/// How long a step takes at most: by the clock, and of work alone.
+struct LongestStep
 {
-    double longest = 0;
+    double clock = 0; // ms
+    double work = 0; // ms
+};
+
+void paint(const QImage &frame, QImage *cell)
+{
+    QPainter painter(cell);
+    painter.setRenderHint(QPainter::SmoothPixmapTransform);
+    painter.drawImage(cell->rect(), frame);
+}
+
+void measureSteps(INxPreviewFrameHelper *helper, QImage *cell, LongestStep *longest)
+{
     for (int i = 0; i < Steps; ++i) {
         QElapsedTimer timer;
         timer.start();
+        const double before = workedMilliseconds();
         QMetaObject::invokeMethod(helper, "slotPlayThumbnailTimeout");
         QImage frame;
-        if (helper->getCurIndexPlayThumbnail(frame)) {
-            QPainter painter(cell);
-            painter.setRenderHint(QPainter::SmoothPixmapTransform);
-            painter.drawImage(cell->rect(), frame);
-        }
-        longest = std::max(longest, milliseconds(timer));
+        if (helper->getCurIndexPlayThumbnail(frame))
+            paint(frame, cell);
+        longest->work = std::max(longest->work, workedMilliseconds() - before);
+        longest->clock = std::max(longest->clock, milliseconds(timer));
     }
-    return longest;
 }
 
 void hover(benchmark::State &state)
 {
     HoverProject project;
     QImage cell(Cell, QImage::Format_RGB32);
+    paint(grainyStrip(), &cell); // A window has painted before anything in it is hovered.
     std::vector<double> first;
-    std::vector<double> step;
+    LongestStep step;
     {
         INxPreviewFrameHelper helper;
         auto next = project.media.begin();
         for (auto _ : state) {
             first.push_back(untilFirstFrame(&helper, *next++));
-            step.push_back(longestStep(&helper, &cell));
+            measureSteps(&helper, &cell, &step);
             helper.stopPreviewFrame();
             state.SetIterationTime(first.back() / MillisecondsPerSecond);
         }
@@ -154,7 +166,8 @@ void hover(benchmark::State &state)
     state.counters["first_ms"] = median(first);
     state.counters["first_longest_ms"] = *std::max_element(first.begin(), first.end());
     state.counters["first_bound_ms"] = MostUntilFirstFrame;
-    state.counters["step_longest_ms"] = *std::max_element(step.begin(), step.end());
+    state.counters["step_longest_ms"] = step.work;
+    state.counters["step_clock_ms"] = step.clock;
     state.counters["step_bound_ms"] = MostForOneStep;
 }
 BENCHMARK(hover)->UseManualTime()->Iterations(Clips)->Unit(benchmark::kMillisecond);

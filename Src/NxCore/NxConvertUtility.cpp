@@ -11,9 +11,15 @@ bool isRate(double fps)
     return std::isfinite(fps) && fps > 0.0;
 }
 
-QString twoDigits(qint64 number)
+/// At least two digits. Rows show lengths: this is called for each of them at each paint.
+void appendDigits(QString *text, qint64 number)
 {
-    return QStringLiteral("%1").arg(number, 2, 10, QLatin1Char('0'));
+    if (number >= 100) {
+        text->append(QString::number(number));
+        return;
+    }
+    text->append(QLatin1Char(char('0' + number / 10)));
+    text->append(QLatin1Char(char('0' + number % 10)));
 }
 
 } // namespace
@@ -33,7 +39,13 @@ QString NxConvertUtility::frame2String(qint64 frames, double fps)
         seconds = qint64(std::floor(double(frames) / fps));
         rest = qint64(std::floor(double(frames) - double(seconds) * fps));
     }
-    return QStringLiteral("%1:%2:%3:%4")
-        .arg(twoDigits(seconds / 3600), twoDigits(seconds / 60 % 60), twoDigits(seconds % 60),
-             twoDigits(rest));
+    constexpr int usualLength = 11;
+    QString text;
+    text.reserve(usualLength);
+    for (const qint64 part : {seconds / 3600, seconds / 60 % 60, seconds % 60, rest}) {
+        if (!text.isEmpty())
+            text.append(QLatin1Char(':'));
+        appendDigits(&text, part);
+    }
+    return text;
 }

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include <NxMediaViews/NxFittedPictures_p.h>
 
+#include <QPainter>
+
 namespace {
 
 constexpr int MostKiB = 64 * 1024;
@@ -22,15 +24,29 @@ QSize sizeIn(const QSize &box, const QImage &picture, NxFittedPictures::Fit fit)
     return size.scaled(box, Qt::KeepAspectRatio).expandedTo({1, 1});
 }
 
+QImage::Format paintedFormat(const QImage &picture)
+{
+    return picture.hasAlphaChannel() ? QImage::Format_ARGB32_Premultiplied : QImage::Format_RGB32;
+}
+
+/// Looks at four pixels of the picture for each of its own, however many there are between them.
+QImage quicklyInSize(const QImage &picture, const QSize &size)
+{
+    QImage sized(size, paintedFormat(picture));
+    QPainter painter(&sized);
+    painter.setCompositionMode(QPainter::CompositionMode_Source);
+    painter.setRenderHint(QPainter::SmoothPixmapTransform);
+    painter.drawImage(sized.rect(), picture);
+    return sized;
+}
+
 QImage inSize(const QImage &picture, const QSize &size)
 {
-    const QImage::Format format =
-        picture.hasAlphaChannel() ? QImage::Format_ARGB32_Premultiplied : QImage::Format_RGB32;
     QImage plain = picture;
     plain.setDevicePixelRatio(1.0);
     if (plain.size() != size)
         plain = plain.scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
-    return plain.convertToFormat(format);
+    return plain.convertToFormat(paintedFormat(picture));
 }
 
 } // namespace
@@ -49,7 +65,9 @@ QImage NxFittedPictures::fitted(INxAbstractMedia *media, const QImage &picture, 
         && known->box == box)
         return known->fitted;
     ++m_madeCount;
-    auto *entry = new Entry{NxMediaRef(media), picture.cacheKey(), box, inSize(picture, size)};
+    const QImage sized =
+        m_fit == Fit::FillQuickly ? quicklyInSize(picture, size) : inSize(picture, size);
+    auto *entry = new Entry{NxMediaRef(media), picture.cacheKey(), box, sized};
     const QImage answer = entry->fitted;
     m_entries.insert(media, entry, int(answer.sizeInBytes() / BytesPerKiB) + 1);
     return answer;

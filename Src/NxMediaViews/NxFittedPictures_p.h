@@ -18,6 +18,7 @@ public:
     enum class Fit {
         Shrink, ///< A picture that is small enough stays as it is.
         Fill, ///< One that is too small is made larger, too.
+        FillQuickly, ///< The same for what moves: less smooth where it is made much smaller.
     };
 
     explicit NxFittedPictures(Fit fit);

@@ -7,6 +7,7 @@
 #include <NxMediaLibrary/delegate/NxGifPreviewHelper.h>
 #include <NxVBLModel/INxAbstractMedia.h>
 #include <NxVBLModel/INxBsThumbManager.h>
+#include <NxVBLModel/NxMediaIndex.h>
 #include <NxWidgets/NxSkinPicture.h>
 
 namespace {
@@ -48,11 +49,19 @@ QImage NxMediaCovers::cover(const QModelIndex &index, INxAbstractMedia *media, c
 QVector<QPersistentModelIndex> NxMediaCovers::takeGifRows()
 {
     QVector<QPersistentModelIndex> rows;
-    for (const QPersistentModelIndex &row : qAsConst(m_gifRows)) {
-        if (row.isValid())
-            rows.append(row);
+    for (auto row = m_gifRows.begin(); row != m_gifRows.end();) {
+        QImage frame;
+        const bool isShown = row.key().isValid();
+        const bool plays =
+            isShown && NxGifPreviewHelper::getInstance()->getImage(mediaAt(row.key()), frame);
+        if (plays && frame.cacheKey() == row.value()) {
+            ++row;
+            continue;
+        }
+        if (isShown)
+            rows.append(row.key());
+        row = m_gifRows.erase(row);
     }
-    m_gifRows.clear();
     return rows;
 }
 
@@ -78,7 +87,7 @@ QImage NxMediaCovers::gifFrame(const QModelIndex &index, INxAbstractMedia *media
     QImage frame;
     if (!NxGifPreviewHelper::getInstance()->getImage(media, frame) || frame.isNull())
         return {};
-    m_gifRows.insert(index);
+    m_gifRows.insert(index, frame.cacheKey());
     return m_gifs.fitted(media, frame, box);
 }
 

@@ -4,8 +4,8 @@
 
 #include <NxMediaViews/NxFittedPictures_p.h>
 
+#include <QHash>
 #include <QPersistentModelIndex>
-#include <QSet>
 #include <QVector>
 
 class INxBsThumbManager;
@@ -31,7 +31,8 @@ public:
     /// @param box in device pixels.
     [[nodiscard]] QImage cover(const QModelIndex &index, INxAbstractMedia *media, const QSize &box,
                                const Sources &sources);
-    /// The rows for which cover() answered a frame of an animated picture since the last call.
+    /// The rows for which cover() answered a frame of an animated picture that is not its present
+    /// one any more; each once.
     [[nodiscard]] QVector<QPersistentModelIndex> takeGifRows();
 
 private:
@@ -54,9 +55,9 @@ private:
     [[nodiscard]] QImage sharedCover(const INxAbstractMedia &media, const QSize &box);
 
     NxFittedPictures m_covers{NxFittedPictures::Fit::Shrink};
-    NxFittedPictures m_gifs{NxFittedPictures::Fit::Fill};
+    NxFittedPictures m_gifs{NxFittedPictures::Fit::FillQuickly};
     PreviewFrame m_preview; // One media plays at a time.
     SharedCover m_sound;
     SharedCover m_subtitle;
-    QSet<QPersistentModelIndex> m_gifRows;
+    QHash<QPersistentModelIndex, qint64> m_gifRows; // With the key of the frame that they show.
 };

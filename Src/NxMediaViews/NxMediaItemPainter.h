@@ -57,8 +57,9 @@ public:
     /// An empty one: no media has a proxy.
     void setProxyTest(ProxyTest test);
 
-    /// The rows that showed a frame of an animated picture since the last call: the only ones that
-    /// a view needs to paint when NxCustomDelegate::sigRepaintAll() comes.
+    /// The rows that show a frame of an animated picture which is not its present one any more:
+    /// the only ones that a view needs to paint when NxCustomDelegate::sigRepaintAll() comes. A row
+    /// is answered once, and again only after it was painted.
     [[nodiscard]] QVector<QPersistentModelIndex> takeGifRows();
 
     void changeItemChildrenRect() override;

@@ -49,8 +49,10 @@ void limitResources(bool isWaitedFor)
     if (!IsSanitized)
         limit(RLIMIT_AS, mostAddresses);
     std::set_new_handler([] { ::_exit(int(NxWorkerExit::TooMuchMemory)); });
+    // The window before all, what is being watched before what nobody waits for.
+    constexpr int watched = 5;
     constexpr int background = 10;
-    if (!isWaitedFor && ::setpriority(PRIO_PROCESS, 0, background) != 0)
+    if (::setpriority(PRIO_PROCESS, 0, isWaitedFor ? watched : background) != 0)
         std::perror("brevano-worker: setpriority");
 }
 

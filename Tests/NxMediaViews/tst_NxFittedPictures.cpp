@@ -17,6 +17,7 @@ private Q_SLOTS:
     void anotherPictureOrBoxIsScaledAnew();
     void proportionsStay_data();
     void proportionsStay();
+    void whatMovesIsMadeSmallerToo();
     void theAddressOfADeadMediaIsNoEntry();
     void nothingComesOfNothing();
 };
@@ -80,6 +81,25 @@ void tst_NxFittedPictures::proportionsStay()
     NxFittedPictures pictures(fills ? NxFittedPictures::Fit::Fill : NxFittedPictures::Fit::Shrink);
     GalleryItem item;
     QTEST(pictures.fitted(&item, patterned(picture), {144, 81}).size(), "fitted");
+}
+
+void tst_NxFittedPictures::whatMovesIsMadeSmallerToo()
+{
+    NxFittedPictures pictures(NxFittedPictures::Fit::FillQuickly);
+    GalleryItem item;
+    QImage frame({480, 270}, QImage::Format_ARGB32); // As films of GIFs hand it out.
+    frame.fill(Qt::transparent);
+    for (int y = 0; y < frame.height(); ++y) {
+        for (int x = 0; x < frame.width() / 2; ++x)
+            frame.setPixelColor(x, y, Qt::red);
+    }
+    const QImage fitted = pictures.fitted(&item, frame, {144, 81});
+    QCOMPARE(fitted.size(), QSize(144, 81));
+    QCOMPARE(fitted.format(), QImage::Format_ARGB32_Premultiplied);
+    QCOMPARE(fitted.pixelColor(10, 40), QColor(Qt::red));
+    QCOMPARE(fitted.pixelColor(134, 40), QColor(Qt::transparent));
+    QCOMPARE(pictures.fitted(&item, frame, {144, 81}).cacheKey(), fitted.cacheKey());
+    QCOMPARE(pictures.madeCount(), 1);
 }
 
 void tst_NxFittedPictures::theAddressOfADeadMediaIsNoEntry()

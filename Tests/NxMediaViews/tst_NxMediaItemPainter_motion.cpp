@@ -11,11 +11,14 @@
 #include <Support/NxTempDir.h>
 #include <Support/NxTestMain.h>
 
+#include <QSignalSpy>
 #include <QTest>
 
 using namespace NXMEDIALIBRARY;
 
 namespace {
+
+using Rows = QVector<QPersistentModelIndex>;
 
 constexpr QSize FrameSize(144, 81);
 
@@ -78,6 +81,8 @@ private Q_SLOTS:
     void otherMediaKeepTheirCovers();
     void withoutAPreviewTheCoverStays();
     void animatedPicturesShowTheirFrameAndAreReported();
+    void aRestingPictureIsNotReported();
+    void aPictureThatVanishesIsReportedOnce();
     void rowsThatAreGoneAreNotReported();
     void stillPicturesAreNotReported();
 
@@ -172,11 +177,41 @@ void tst_NxMediaItemPainter_motion::animatedPicturesShowTheirFrameAndAreReported
     row.item.path = dir.write(QStringLiteral("waving.gif"), GifMaker::gif({Qt::red, Qt::blue}));
     // Read on another thread; until then the cover stands.
     QTRY_VERIFY(row.shown() == QColor(Qt::red) || row.shown() == QColor(Qt::blue));
-    QCOMPARE(row.painter->takeGifRows(), QVector<QPersistentModelIndex>{row.index()});
-    QCOMPARE(row.painter->takeGifRows(), QVector<QPersistentModelIndex>());
-    QTRY_COMPARE(row.shown(), QColor(Qt::blue));
+    int reports = 0;
+    const auto reported = [&] { return reports += row.painter->takeGifRows().size(); };
+    QTRY_VERIFY(reported() == 1);
+    QTRY_COMPARE(row.shown(), QColor(Qt::blue)); // Not reported again until it is painted.
     QTRY_COMPARE(row.shown(), QColor(Qt::red));
-    QCOMPARE(row.painter->takeGifRows(), QVector<QPersistentModelIndex>{row.index()});
+    QTRY_VERIFY(reported() == 2);
+}
+
+void tst_NxMediaItemPainter_motion::aRestingPictureIsNotReported()
+{
+    constexpr int longRest = 60'000; // Hundredths of a second.
+    const NxTempDir dir;
+    PlayedRow row;
+    row.item.code = NXVBLMODEL::mkcAnimatedImage;
+    row.item.path =
+        dir.write(QStringLiteral("slow.gif"), GifMaker::gif({Qt::red, Qt::blue}, longRest));
+    QTRY_COMPARE(row.shown(), QColor(Qt::red));
+    QSignalSpy ticks(NxGifPreviewHelper::getInstance(), &NxGifPreviewHelper::sigUpdate);
+    QTRY_VERIFY(ticks.size() > 3);
+    QCOMPARE(row.painter->takeGifRows(), Rows());
+}
+
+void tst_NxMediaItemPainter_motion::aPictureThatVanishesIsReportedOnce()
+{
+    const NxTempDir dir;
+    PlayedRow row;
+    row.item.code = NXVBLMODEL::mkcAnimatedImage;
+    row.item.path =
+        dir.write(QStringLiteral("slow.gif"), GifMaker::gif({Qt::red, Qt::blue}, 60'000));
+    QTRY_COMPARE(row.shown(), QColor(Qt::red));
+    NxGifPreviewHelper::getInstance()->clear();
+    row.item.path = dir.filePath(QStringLiteral("gone.gif"));
+    QCOMPARE(row.painter->takeGifRows(), Rows{row.index()});
+    QCOMPARE(row.shown(), row.coverColour);
+    QCOMPARE(row.painter->takeGifRows(), Rows());
 }
 
 void tst_NxMediaItemPainter_motion::rowsThatAreGoneAreNotReported()
@@ -187,7 +222,7 @@ void tst_NxMediaItemPainter_motion::rowsThatAreGoneAreNotReported()
     row.item.path = dir.write(QStringLiteral("waving.gif"), GifMaker::gif({Qt::red, Qt::blue}));
     QTRY_VERIFY(row.shown() != row.coverColour);
     row.model.setMedia({});
-    QCOMPARE(row.painter->takeGifRows(), QVector<QPersistentModelIndex>());
+    QCOMPARE(row.painter->takeGifRows(), Rows());
 }
 
 void tst_NxMediaItemPainter_motion::stillPicturesAreNotReported()
@@ -196,7 +231,7 @@ void tst_NxMediaItemPainter_motion::stillPicturesAreNotReported()
     QCOMPARE(row.shown(), row.coverColour);
     row.play();
     QCOMPARE(row.shown(), colourOfFrame(0));
-    QCOMPARE(row.painter->takeGifRows(), QVector<QPersistentModelIndex>());
+    QCOMPARE(row.painter->takeGifRows(), Rows());
 }
 
 NX_TEST_MAIN_WIDGETS(tst_NxMediaItemPainter_motion)
