@@ -236,20 +236,18 @@ void INxPreviewFrameHelper::slotPlayThumbnailTimeout()
 
 void INxPreviewFrameHelper::stepVideo()
 {
-    const bool hasMore = m_frame < m_video->frameCount();
-    if (!hasMore)
-        m_frame = 0;
-    const QPointer<INxPreviewFrameHelper> self(this);
-    Q_EMIT sigUpdate(m_index);
-    if (self && hasMore)
-        ++m_frame;
+    step(m_frame < m_video->frameCount());
 }
 
 void INxPreviewFrameHelper::stepStrip()
 {
-    if (m_strip.isNull())
-        return;
-    const bool hasMore = (m_frame + 1) * NxPreviewFrame::Height <= m_strip.height();
+    if (!m_strip.isNull())
+        step((m_frame + 1) * NxPreviewFrame::Height <= m_strip.height());
+}
+
+/// Who paints at the signal paints the frame of now, who paints later the next one.
+void INxPreviewFrameHelper::step(bool hasMore)
+{
     if (!hasMore)
         m_frame = 0;
     const QPointer<INxPreviewFrameHelper> self(this);

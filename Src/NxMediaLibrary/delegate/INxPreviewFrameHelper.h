@@ -95,9 +95,9 @@ private:
     void requestPreview(INxAbstractMediaItem *item);
     void forgetWaiting();
     void takeStrip(const QImage &strip);
-    void start();
     void stepVideo();
     void stepStrip();
+    void step(bool hasMore);
 
     int m_frame = 0;
     QTimer *const m_frameTimer; // A child, as the next one is.

@@ -32,12 +32,9 @@ NxPreviewPlayer::NxPreviewPlayer(NxPreviewSettings settings, Tell tell)
     : m_settings(std::move(settings)),
       m_tell(std::move(tell))
 {
-    m_burialTimer.setSingleShot(true);
-    m_burialTimer.setInterval(0);
     m_limitTimer.setSingleShot(true);
     m_idleTimer.setSingleShot(true);
     m_idleTimer.setInterval(milliseconds(m_settings.idleLimit));
-    connect(&m_burialTimer, &QTimer::timeout, this, [this] { m_dead.clear(); });
     connect(&m_limitTimer, &QTimer::timeout, this, &NxPreviewPlayer::onSilent);
     connect(&m_idleTimer, &QTimer::timeout, this, &NxPreviewPlayer::stop);
 }
@@ -301,29 +298,11 @@ void NxPreviewPlayer::letGo(quint64 stopped)
     m_lent = m_freed = 0;
     if (!m_process)
         return;
-    NxWorkerProcess *process = m_process.get();
-    process->disconnect(this);
-    m_dying.push_back(std::move(m_process));
-    connect(process, &NxWorkerProcess::gone, this, [this, process] { bury(process); });
-    if (process->isRunning())
-        process->kill(); // It holds nothing that is worth a farewell.
-    else
-        bury(process);
+    m_burial.take(std::move(m_process)); // It holds nothing that is worth a farewell.
     NxPreviewNews news;
     news.memory = std::exchange(m_memory, nullptr);
     news.stopped = stopped;
     m_tell(std::move(news));
-}
-
-void NxPreviewPlayer::bury(const NxWorkerProcess *process)
-{
-    const auto dead = std::find_if(m_dying.begin(), m_dying.end(),
-                                   [process](const auto &dying) { return dying.get() == process; });
-    if (dead == m_dying.end())
-        return;
-    m_dead.push_back(std::move(*dead));
-    m_dying.erase(dead);
-    m_burialTimer.start();
 }
 
 void NxPreviewPlayer::giveUp(const QString &why)

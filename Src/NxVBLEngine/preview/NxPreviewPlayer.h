@@ -6,6 +6,7 @@
 #include <NxVBLEngine/preview/NxPreviewNews.h>
 #include <NxVBLEngine/preview/NxPreviewOrder.h>
 #include <NxVBLEngine/preview/NxPreviewSettings.h>
+#include <NxVBLEngine/reading/NxWorkerBurial.h>
 #include <NxVBLEngine/reading/NxWorkerProcess.h>
 
 #include <QByteArray>
@@ -17,7 +18,6 @@
 #include <functional>
 #include <memory>
 #include <optional>
-#include <vector>
 
 /// Speaks with the one worker that plays films, a film at a time.
 ///
@@ -80,7 +80,6 @@ private:
     void strike(const QString &reason);
     void stop();
     void letGo(quint64 stopped);
-    void bury(const NxWorkerProcess *process);
     void giveUp(const QString &why);
     void tellUnplayable(quint64 number, const QString &reason);
 
@@ -88,9 +87,7 @@ private:
     const Tell m_tell;
     std::unique_ptr<NxWorkerProcess> m_process;
     std::shared_ptr<const NxSharedMemory> m_memory; // Of the process; each has its own.
-    std::vector<std::unique_ptr<NxWorkerProcess>> m_dying; // Killed, not yet dead.
-    std::vector<std::unique_ptr<NxWorkerProcess>> m_dead; // Until nobody is in a slot of theirs.
-    QTimer m_burialTimer;
+    NxWorkerBurial m_burial;
     QTimer m_limitTimer;
     QTimer m_idleTimer;
     std::optional<NxPreviewOpen> m_film; // What is to be played.

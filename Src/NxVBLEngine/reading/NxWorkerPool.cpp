@@ -37,9 +37,6 @@ NxWorkerPool::NxWorkerPool(NxWorkerSettings settings, Tell tell)
     , m_volumes(m_settings.silentPause)
 {
     m_clock.start();
-    m_burialTimer.setSingleShot(true);
-    m_burialTimer.setInterval(0);
-    connect(&m_burialTimer, &QTimer::timeout, this, [this] { m_dead.clear(); });
     if (m_settings.program.isEmpty())
         m_givenUp = m_settings.whyNone;
     for (int i = 0; i < std::max(m_settings.workers, 1); ++i)
@@ -126,27 +123,8 @@ void NxWorkerPool::letGo(Seat *seat)
     seat->slowTimer.stop();
     seat->limitTimer.stop();
     seat->idleTimer.stop();
-    if (!seat->process)
-        return;
-    NxWorkerProcess *process = seat->process.get();
-    process->disconnect(this);
-    m_dying.push_back(std::move(seat->process));
-    connect(process, &NxWorkerProcess::gone, this, [this, process] { bury(process); });
-    if (process->isRunning())
-        process->kill();
-    else
-        bury(process);
-}
-
-void NxWorkerPool::bury(const NxWorkerProcess *process)
-{
-    const auto dead = std::find_if(m_dying.begin(), m_dying.end(),
-        [process](const auto &dying) { return dying.get() == process; });
-    if (dead == m_dying.end())
-        return;
-    m_dead.push_back(std::move(*dead));
-    m_dying.erase(dead);
-    m_burialTimer.start();
+    if (seat->process)
+        m_burial.take(std::move(seat->process));
 }
 
 void NxWorkerPool::onEnded(Seat *seat, NxWorkerEnd end, const QString &why)

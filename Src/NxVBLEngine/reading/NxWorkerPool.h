@@ -5,6 +5,7 @@
 #include <NxVBLEngine/NxVBLEngineExport.h>
 #include <NxVBLEngine/reading/NxReadOutcome.h>
 #include <NxVBLEngine/reading/NxSilentVolumes.h>
+#include <NxVBLEngine/reading/NxWorkerBurial.h>
 #include <NxVBLEngine/reading/NxWorkerProcess.h>
 #include <NxVBLEngine/reading/NxWorkerSettings.h>
 
@@ -74,7 +75,6 @@ private:
     void onLimit(Seat *seat);
     void noteAnswer(Seat *seat);
     void letGo(Seat *seat);
-    void bury(const NxWorkerProcess *process);
     void settleKilled(Seat *seat, const QString &reason);
     void giveUpAll(const QString &why);
     void tellSilent(const Job &job, const QString &volume);
@@ -85,9 +85,7 @@ private:
     const Tell m_tell;
     std::vector<std::unique_ptr<Seat>> m_seats;
     std::deque<Job> m_waiting;
-    std::vector<std::unique_ptr<NxWorkerProcess>> m_dying; // Killed, not yet dead.
-    std::vector<std::unique_ptr<NxWorkerProcess>> m_dead; // Until nobody is in a slot of theirs.
-    QTimer m_burialTimer;
+    NxWorkerBurial m_burial;
     NxSilentVolumes m_volumes;
     QStringList m_roots;
     std::chrono::milliseconds m_rootsRead{-1};

@@ -18,6 +18,8 @@ list(APPEND NXVBLENGINE_SOURCES
     reading/NxReadingThread.h
     reading/NxSilentVolumes.cpp
     reading/NxSilentVolumes.h
+    reading/NxWorkerBurial.cpp
+    reading/NxWorkerBurial.h
     reading/NxWorkerLocation.cpp
     reading/NxWorkerLocation.h
     reading/NxWorkerPool.cpp
