@@ -46,8 +46,9 @@ inline void putFrame(QByteArray *bytes, const QSize &size, int colour, int hundr
     bytes->append('\x00');
 }
 
-/// A GIF that runs for ever, frames in the order of `colours`, at most 128 of them.
-[[nodiscard]] inline QByteArray gif(const QVector<QColor> &colours, int hundredths = 2,
+/// A GIF that runs for ever, frames in the order of `colours`, at most 128 of them; each is shown
+/// longer than a test waits between two looks, unless it says otherwise.
+[[nodiscard]] inline QByteArray gif(const QVector<QColor> &colours, int hundredths = 7,
                                     const QSize &size = {16, 9})
 {
     QByteArray bytes("GIF89a");

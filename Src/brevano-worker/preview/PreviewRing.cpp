@@ -38,7 +38,7 @@ void PreviewRing::keepUp(const NxPreviewShow &shown, qint64 frames)
 {
     const bool isSame =
         m_newest && m_newest->number == shown.number && m_newest->size == shown.size;
-    if (!isSame || frames <= 0) {
+    if (!isSame || shown.frame >= frames) {
         m_lead = 0;
         return;
     }
@@ -52,6 +52,8 @@ void PreviewRing::keepUp(const NxPreviewShow &shown, qint64 frames)
 
 std::optional<qint64> PreviewRing::missing(const NxPreviewShow &shown, qint64 frames) const
 {
+    if (shown.frame >= frames)
+        return std::nullopt;
     const qint64 most = std::min<qint64>(NxPreviewSlots::Count, frames);
     for (qint64 i = 0; i < most; ++i) {
         const qint64 frame = (shown.frame + (m_lead + i) % most) % frames;

@@ -121,6 +121,10 @@ void tst_PreviewRing::pastTheEndNothingIsMissing()
     QVERIFY(!ring.missing(showing(Frames), Frames));
     QVERIFY(!ring.missing(showing(std::numeric_limits<qint64>::max()), Frames));
     QVERIFY(!ring.missing(showing(0), 0));
+    PreviewRing busy;
+    busy.lend({Film, 5, 0, Size});
+    busy.keepUp(showing(std::numeric_limits<qint64>::max()), Frames);
+    QCOMPARE(busy.lead(), 0);
     QCOMPARE(ring.missing(showing(Frames - 1), Frames), std::optional<qint64>(Frames - 1));
 }
 
