@@ -125,7 +125,8 @@ void NxSkinStyle::setSkin(NxSkin skin)
 QColor NxSkinStyle::GetColor(NxSkinColor colour) const
 {
     const auto row = size_t(colour);
-    Q_ASSERT(row < std::size(Colours));
+    if (row >= std::size(Colours))
+        return {};
     return QColor::fromRgb(m_skin == NxSkin::Light ? Colours[row].light : Colours[row].dark);
 }
 

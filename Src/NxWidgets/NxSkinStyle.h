@@ -26,7 +26,7 @@ public:
     /// afterwards finds the latest.
     void setSkin(NxSkin skin);
 
-    /// Opaque and valid for every named colour.
+    /// Opaque and valid for every named colour; invalid for any other number.
     [[nodiscard]] QColor GetColor(NxSkinColor colour) const;
 
     /// Where the skin's own version of a picture lies: ":/Resource/Light/x.png" for

@@ -128,6 +128,7 @@ private Q_SLOTS:
     void initTestCase();
     void cleanup();
     void everyColourIsOpaqueAndAnotherInEachSkin();
+    void anUnknownColourIsInvalid();
     void whatIsShownCanBeSeen_data();
     void whatIsShownCanBeSeen();
     void fieldsWithTheKeyboardHaveAnotherBorder();
@@ -157,6 +158,12 @@ void tst_NxSkinStyle::initTestCase()
 void tst_NxSkinStyle::cleanup()
 {
     style().setSkin(NxSkin::Dark);
+}
+
+void tst_NxSkinStyle::anUnknownColourIsInvalid()
+{
+    QVERIFY(!style().GetColor(Key(-1)).isValid());
+    QVERIFY(!style().GetColor(Key(1'000)).isValid());
 }
 
 void tst_NxSkinStyle::everyColourIsOpaqueAndAnotherInEachSkin()
