@@ -4,6 +4,7 @@
 
 #include <NxMediaLibrary/NxMediaDataModel/NxMediaItemViewTypes.h>
 
+#include <QCoreApplication>
 #include <QStringList>
 #include <QTranslator>
 

@@ -60,6 +60,16 @@ private Q_SLOTS:
     void aResetModelGetsNoStaleIndex();
     void theRowIsFollowedThroughInsertions();
     void theHelperMayGoWhileItTells();
+
+    void itStandsStillAtAFrame_data();
+    void itStandsStillAtAFrame();
+    void aFrameInPlaceOfPlaying();
+    void playingGoesOnFromTheFirstFrame();
+    void standingStillThenStoppingLetsGoOfTheMedia();
+    void anotherMediaDoesNotStandStill();
+    void withoutFramesNothingStandsStill_data();
+    void withoutFramesNothingStandsStill();
+    void aMediaThatDiesDoesNotStandStill();
 };
 
 void tst_INxPreviewFrameHelper::hostsFindItsSignalAndSlotsInTheirPlaces()
@@ -312,6 +322,120 @@ void tst_INxPreviewFrameHelper::theHelperMayGoWhileItTells()
     connect(helper.get(), &INxPreviewFrameHelper::sigUpdate, this, [&] { helper.reset(); });
     QVERIFY(helper->playPreviewFrame());
     QTRY_VERIFY(!helper);
+}
+
+void tst_INxPreviewFrameHelper::itStandsStillAtAFrame_data()
+{
+    QTest::addColumn<qreal>("place");
+    QTest::addColumn<int>("frame"); // Of ten.
+    QTest::newRow("first") << 0.0 << 0;
+    QTest::newRow("end of the first") << 0.099 << 0;
+    QTest::newRow("second") << 0.101 << 1;
+    QTest::newRow("middle") << 0.55 << 5;
+    QTest::newRow("begin of the last") << 0.901 << 9;
+    QTest::newRow("last") << 1.0 << 9;
+    QTest::newRow("before the first") << -0.3 << 0;
+    QTest::newRow("behind the last") << 1.3 << 9;
+    QTest::newRow("far before the first") << -1e30 << 0;
+    QTest::newRow("far behind the last") << 1e30 << 9;
+}
+
+void tst_INxPreviewFrameHelper::itStandsStillAtAFrame()
+{
+    QFETCH(qreal, place);
+    QFETCH(int, frame);
+    StripStand f(filmStrip(810));
+    QVector<int> told;
+    f.onUpdate = [&] { told.append(frameShown(f.frame())); };
+    QVERIFY(f.helper.showPreviewFrame(place));
+    QVERIFY(!f.isPlaying());
+    QVERIFY(!f.helper.isBeyondStrip());
+    QCOMPARE(frameShown(f.frame()), frame);
+    QCOMPARE(told, QVector<int>{frame});
+    QCOMPARE(f.updates, QVector<QModelIndex>{f.model.index(0, 0)});
+    QCOMPARE(f.helper.getMedia(), &f.item);
+}
+
+void tst_INxPreviewFrameHelper::aFrameInPlaceOfPlaying()
+{
+    StripStand f(filmStrip(810));
+    QVERIFY(f.helper.playPreviewFrame());
+    QVERIFY(f.step());
+    QVERIFY(f.helper.showPreviewFrame(0.75));
+    QVERIFY(!f.isPlaying());
+    QCOMPARE(frameShown(f.frame()), 7);
+    QVERIFY(f.helper.showPreviewFrame(0.25));
+    QCOMPARE(frameShown(f.frame()), 2);
+}
+
+void tst_INxPreviewFrameHelper::playingGoesOnFromTheFirstFrame()
+{
+    StripStand f(filmStrip(810));
+    QVERIFY(f.helper.showPreviewFrame(0.75));
+    QVERIFY(f.helper.playPreviewFrame());
+    QVERIFY(f.isPlaying());
+    QCOMPARE(frameShown(f.frame()), 0);
+    QVERIFY(f.step());
+    QCOMPARE(frameShown(f.frame()), 1);
+}
+
+void tst_INxPreviewFrameHelper::standingStillThenStoppingLetsGoOfTheMedia()
+{
+    StripStand f(filmStrip(810));
+    QVERIFY(f.helper.showPreviewFrame(0.75));
+    f.helper.stopPreviewFrame();
+    QVERIFY(!f.helper.getMedia());
+    QCOMPARE(frameShown(f.frame()), 0);
+    QVERIFY(!f.helper.showPreviewFrame(0.75)); // There is no media to show frames of.
+    QCOMPARE(frameShown(f.frame()), 0);
+}
+
+void tst_INxPreviewFrameHelper::anotherMediaDoesNotStandStill()
+{
+    StripStand f(filmStrip(810));
+    QVERIFY(f.helper.showPreviewFrame(0.75));
+    StripItem other;
+    f.helper.setMedia(f.model.index(1, 0), &other);
+    f.helper.stopPreviewFrame();
+    QCOMPARE(f.helper.getMedia(), &other); // It neither plays nor stands still.
+}
+
+void tst_INxPreviewFrameHelper::withoutFramesNothingStandsStill_data()
+{
+    QTest::addColumn<int>("height");
+    QTest::addColumn<bool>("isEnabled");
+    QTest::addColumn<bool>("isShown");
+    QTest::newRow("a frame") << 81 << true << true;
+    QTest::newRow("disabled") << 810 << false << false;
+    QTest::newRow("no strip") << 0 << true << false;
+    QTest::newRow("less than a frame") << 80 << true << false;
+}
+
+void tst_INxPreviewFrameHelper::withoutFramesNothingStandsStill()
+{
+    QFETCH(int, height);
+    QFETCH(bool, isEnabled);
+    QFETCH(bool, isShown);
+    StripStand f(height > 0 ? filmStrip(height) : QImage());
+    f.helper.setEnablePlayThumbnail(isEnabled);
+    QCOMPARE(f.helper.showPreviewFrame(1.0), isShown);
+    QCOMPARE(f.updates.size(), isShown ? 1 : 0);
+    QVERIFY(!f.isPlaying());
+    f.helper.stopPreviewFrame();
+    QCOMPARE(f.helper.getMedia() == nullptr, isShown);
+}
+
+void tst_INxPreviewFrameHelper::aMediaThatDiesDoesNotStandStill()
+{
+    PreviewStand f;
+    auto item = std::make_unique<StripItem>();
+    f.helper.setMedia({}, item.get());
+    f.helper.setPlayThumbnail(filmStrip(810));
+    QVERIFY(f.helper.showPreviewFrame(0.5));
+    item.reset();
+    QVERIFY(!f.helper.showPreviewFrame(0.7));
+    QCOMPARE(f.updates.size(), 1);
+    QVERIFY(f.frame().isNull());
 }
 
 NX_TEST_MAIN(tst_INxPreviewFrameHelper)

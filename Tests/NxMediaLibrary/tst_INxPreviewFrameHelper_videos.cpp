@@ -75,6 +75,7 @@ private Q_SLOTS:
     void leavingForgetsTheClipThatIsWaitedFor();
     void aClipThatDiesIsNotWaitedFor();
     void aVideoItemThatDiesIsNotPlayed();
+    void aVideoStandsStillAtAFrame();
 };
 
 void tst_INxPreviewFrameHelper_videos::aVideoIsPutOnATimelineOfItsOwn()
@@ -519,6 +520,26 @@ void tst_INxPreviewFrameHelper_videos::aVideoItemThatDiesIsNotPlayed()
     QVERIFY(f.step());
     QVERIFY(!f.isPlaying());
     QVERIFY(f.updates.isEmpty());
+}
+
+void tst_INxPreviewFrameHelper_videos::aVideoStandsStillAtAFrame()
+{
+    VideoStand f;
+    auto item = std::make_unique<StockItem>();
+    item->preview = text("a.mp4");
+    f.helper.setMedia({}, item.get());
+    QVERIFY(!f.helper.showPreviewFrame(0.5)); // Nobody knows its length yet.
+    f.engine.video.frames = 100;
+    QVERIFY(f.helper.playPreviewFrame());
+    QVERIFY(f.helper.showPreviewFrame(0.5));
+    QVERIFY(!f.isPlaying());
+    QCOMPARE(frameShown(f.frame()), 50);
+    QVERIFY(f.helper.showPreviewFrame(1.0));
+    QCOMPARE(frameShown(f.frame()), 99);
+    QVERIFY(f.helper.playPreviewFrame());
+    QCOMPARE(frameShown(f.frame()), 0);
+    item.reset();
+    QVERIFY(!f.helper.showPreviewFrame(0.5));
 }
 
 NX_TEST_MAIN(tst_INxPreviewFrameHelper_videos)

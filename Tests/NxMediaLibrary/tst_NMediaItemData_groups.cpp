@@ -105,6 +105,8 @@ private Q_SLOTS:
         data.setGroupBy({NxMediaItemViewGroupBy(groupBy), soASC, nullptr});
         QCOMPARE(data.isCanGroupBy(), isAllowed);
         QCOMPARE(data.isGrouped(), isAllowed && groupBy != gbNone);
+        data.setGroupBy(ByCategory);
+        QCOMPARE(NMediaItemData::canGroup(stand.folder, filter), data.isCanGroupBy());
     }
 
     void furtherKindsOfTheSectionCount()
@@ -134,6 +136,8 @@ private Q_SLOTS:
         data.setFilter(similarTo(1));
         data.setGroupBy(ByCategory);
         QVERIFY(data.isCanGroupBy());
+        QVERIFY(NMediaItemData::canGroup(nullptr, similarTo(1)));
+        QVERIFY(!NMediaItemData::canGroup(nullptr, {}));
         QVERIFY(!data.isGrouped());
     }
 

@@ -9,6 +9,7 @@
 #include <QCoreApplication>
 #include <QList>
 #include <QPointer>
+#include <QVector>
 
 #include <memory>
 #include <vector>
@@ -79,8 +80,17 @@ public:
     /// Where a media stands, ascending; more than once when its group was expanded twice.
     [[nodiscard]] QList<int> rows(const INxAbstractMedia *item) const;
 
+    /// The rows that take a whole line of a view, ascending: headers of groups and "View More"
+    /// tiles. Costs as much as there are groups while they stand as they were made.
+    [[nodiscard]] QVector<int> wholeLineRows() const;
+    /// How many media are shown, those of folded groups among them; no headers and tiles.
+    [[nodiscard]] int listedCount() const;
+
     /// Whether the folder, and what is searched in it, allows grouping.
     [[nodiscard]] bool isCanGroupBy() const;
+    /// Whether rows of a folder, which may be null, would be grouped by a key. Lists nothing.
+    [[nodiscard]] static bool canGroup(const INxFolderMedia *folder,
+                                       const NXMEDIALIBRARY::NxMediaItemViewFilter &filter);
     /// Whether rows are grouped.
     [[nodiscard]] bool isGrouped() const;
 

@@ -27,6 +27,11 @@ constexpr std::array<NXVBLMODEL::NxFolderKind, 6> GroupableSections = {
     NXVBLMODEL::fkUserSectionMore, NXVBLMODEL::fkFavourites, NXVBLMODEL::fkDownloaded,
 };
 
+bool isAlwaysGrouped(const INxFolderMedia *folder, const NxMediaItemViewFilter &filter)
+{
+    return filter.searchMode == esmSimilar || (folder && folder->isKind(NXVBLMODEL::fkCustom));
+}
+
 } // namespace
 
 // As the group engine groups, but what was found out about the items is kept.
@@ -149,17 +154,22 @@ NxMediaItemViewSort NMediaItemData::effectiveSort() const
 
 bool NMediaItemData::isCanGroupBy() const
 {
-    if (m_filter.searchMode == esmSimilar || (m_folder && m_folder->isKind(NXVBLMODEL::fkCustom)))
+    if (isAlwaysGrouped(m_folder, m_filter))
         return true;
-    if (!m_folder || m_folder->isSearchResult() || !m_filter.keyword.isEmpty())
+    return m_groupBy.groupBy != gbNone && canGroup(m_folder, m_filter);
+}
+
+bool NMediaItemData::canGroup(const INxFolderMedia *folder, const NxMediaItemViewFilter &filter)
+{
+    if (isAlwaysGrouped(folder, filter))
+        return true;
+    if (!folder || folder->isSearchResult() || !filter.keyword.isEmpty())
         return false;
-    const INxFolderMedia *owner = m_folder->owner();
-    const bool isGroupable = owner
-                             && std::any_of(GroupableSections.begin(), GroupableSections.end(),
-                                            [owner](NXVBLMODEL::NxFolderKind kind) {
-                                                return owner->holdsMediaType(kind);
-                                            });
-    return isGroupable && m_groupBy.groupBy != gbNone;
+    const INxFolderMedia *owner = folder->owner();
+    return owner
+           && std::any_of(
+               GroupableSections.begin(), GroupableSections.end(),
+               [owner](NXVBLMODEL::NxFolderKind kind) { return owner->holdsMediaType(kind); });
 }
 
 bool NMediaItemData::isGrouped() const

@@ -166,3 +166,45 @@ void NMediaItemData::updateExtraText()
             tile->setTitle(titleOf(tile->mediaType()));
     }
 }
+
+QVector<int> NMediaItemData::wholeLineRows() const
+{
+    QSet<const INxAbstractMedia *> heads;
+    if (isGrouped())
+        heads = {m_groupItems.begin(), m_groupItems.end()};
+    for (const INxAbstractMedia *tile : qAsConst(m_extraItems)) {
+        if (tile->mediaType() == NXVBLMODEL::mtViewMoreTile)
+            heads.insert(tile);
+    }
+    QVector<int> found;
+    const Items &items = getItems();
+    for (int row = 0; !heads.isEmpty() && row < items.size();) {
+        const bool isHead = heads.contains(items.at(row));
+        if (isHead)
+            found.append(row);
+        // The next head is expected right behind what this one shows.
+        const auto *group = isHead ? dynamic_cast<const INxGroupMedia *>(items.at(row)) : nullptr;
+        const int behind = row + 1 + (group && group->isExpanded() ? group->members().size() : 0);
+        const bool isThere =
+            behind == items.size() || (behind < items.size() && heads.contains(items.at(behind)));
+        row = isThere ? behind : row + 1;
+    }
+    return found;
+}
+
+// By what stands in the rows: a similar search shows none of the groups that are chosen.
+int NMediaItemData::listedCount() const
+{
+    const Items &items = getItems();
+    int inGroups = 0;
+    bool hasGroups = false;
+    for (const int row : wholeLineRows()) {
+        if (const auto *group = dynamic_cast<const INxGroupMedia *>(items.at(row))) {
+            inGroups += group->itemCount();
+            hasGroups = true;
+        }
+    }
+    if (hasGroups)
+        return inGroups;
+    return items.isEmpty() ? 0 : items.size() - m_extraItems.size();
+}

@@ -226,3 +226,13 @@ QList<int> NxMediaItemModel::rows(const INxAbstractMedia *item) const
 {
     return m_data->rows(item);
 }
+
+QVector<int> NxMediaItemModel::wholeLineRows() const
+{
+    return m_data->wholeLineRows();
+}
+
+int NxMediaItemModel::listedCount() const
+{
+    return m_data->listedCount();
+}

@@ -8,6 +8,7 @@
 #include <NxVBLModel/INxMediaItemEventObserver.h>
 
 #include <QAbstractItemModel>
+#include <QVector>
 
 #include <memory>
 #include <vector>
@@ -57,6 +58,8 @@ public:
     void fetchMore(const QModelIndex &parent) override;
     bool event(QEvent *event) override;
 
+    [[nodiscard]] NXVBLMODEL::NxMediaCategoryType categoryType() const { return m_categoryType; }
+
     /// Shows a folder, or none.
     void load(const INxFolderMedia *folder);
     /// No rows; the folder stays.
@@ -68,6 +71,11 @@ public:
     [[nodiscard]] INxAbstractMedia *mediaItem(int row) const;
     /// Where a media stands, ascending.
     [[nodiscard]] QList<int> rows(const INxAbstractMedia *item) const;
+    /// The rows that take a whole line of a view, ascending: headers of groups and "View More"
+    /// tiles. Costs as much as there are groups.
+    [[nodiscard]] QVector<int> wholeLineRows() const;
+    /// How many media are shown, those of folded groups among them; no headers and tiles.
+    [[nodiscard]] int listedCount() const;
 
     void setSortBy(const NXMEDIALIBRARY::NxMediaItemViewSort &sort);
     [[nodiscard]] NXMEDIALIBRARY::NxMediaItemViewSort getSortBy() const;

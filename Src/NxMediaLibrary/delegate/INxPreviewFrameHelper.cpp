@@ -48,6 +48,7 @@ void INxPreviewFrameHelper::setMedia(const QModelIndex &index, INxAbstractMedia 
     m_media = media;
     m_isHolding = media != nullptr;
     m_isPlayWanted = false;
+    m_isHeld = false;
     m_strips->forget();
     forgetWaiting();
     auto *item = dynamic_cast<INxAbstractMediaItem *>(media);
@@ -139,6 +140,7 @@ bool INxPreviewFrameHelper::playPreviewFrame()
     if (!m_isEnabled)
         return false;
     m_frameTimer->stop();
+    m_isHeld = false;
     m_frame = 0;
     const bool isReady = isVideoHeld() ? !getPlayVideo().isEmpty() : !m_strip.isNull();
     m_isPlayWanted = !isReady && m_strips->isAwaited();
@@ -147,12 +149,33 @@ bool INxPreviewFrameHelper::playPreviewFrame()
     return isReady;
 }
 
+int INxPreviewFrameHelper::frameCount() const
+{
+    if (m_media.isNull())
+        return 0;
+    return isVideoHeld() ? int(m_video->frameCount()) : m_strip.height() / NxPreviewFrame::Height;
+}
+
+bool INxPreviewFrameHelper::showPreviewFrame(qreal place)
+{
+    const int frames = frameCount();
+    if (!m_isEnabled || frames <= 0)
+        return false;
+    m_frameTimer->stop();
+    m_isPlayWanted = false;
+    m_isHeld = true;
+    m_frame = qMin(int(qBound(0.0, place, 1.0) * frames), frames - 1);
+    Q_EMIT sigUpdate(m_index);
+    return true;
+}
+
 void INxPreviewFrameHelper::stopPreviewFrame()
 {
     forgetWaiting();
-    if (!m_frameTimer->isActive() && !m_isPlayWanted)
+    if (!m_frameTimer->isActive() && !m_isPlayWanted && !m_isHeld)
         return;
     m_frameTimer->stop();
+    m_isHeld = false;
     m_frame = 0;
     m_isPlayWanted = false;
     m_strips->forget();

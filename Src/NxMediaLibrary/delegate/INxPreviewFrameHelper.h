@@ -54,6 +54,9 @@ public:
     /// is disabled or there is nothing to show; a film strip that is still on its way begins to
     /// play by itself when it comes.
     bool playPreviewFrame();
+    /// Stands still at one frame: `place` goes from 0, the first, to 1, the last. False, and
+    /// nothing changes, while there is nothing to show yet.
+    bool showPreviewFrame(qreal place);
     /// Stops, and lets go of the media that was playing or about to; a clip that was waited for
     /// is forgotten.
     void stopPreviewFrame();
@@ -91,6 +94,7 @@ private Q_SLOTS:
 private:
     [[nodiscard]] bool isDead() const { return m_isHolding && m_media.isNull(); }
     [[nodiscard]] bool isVideoHeld() const;
+    [[nodiscard]] int frameCount() const;
     [[nodiscard]] bool isRequested(INxAbstractMediaItem *item) const;
     void requestPreview(INxAbstractMediaItem *item);
     void forgetWaiting();
@@ -105,6 +109,7 @@ private:
     QImage m_strip;
     bool m_isEnabled = true;
     bool m_isPlayWanted = false; // To be played when its film strip comes.
+    bool m_isHeld = false; // At one frame.
     QPersistentModelIndex m_index;
     NxMediaRef m_media;
     bool m_isHolding = false; // Also when the media died.
