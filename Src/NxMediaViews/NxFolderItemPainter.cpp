@@ -20,16 +20,9 @@ constexpr int NarrowestName = 48;
 constexpr int EndMargin = 8;
 constexpr int CountGap = 8;
 
-/// Asked in this way, an engine answers without listing the folder.
-int mediaCount(const INxFolderMedia &folder)
-{
-    const INxAbstractMedia *last = folder.lastMedia(true);
-    return last ? folder.listedPlace(last, true) + 1 : 0;
-}
-
 QString countText(const INxFolderMedia &folder)
 {
-    const int count = mediaCount(folder);
+    const int count = NxFolderItemPainter::mediaCount(folder);
     return count > 0 ? QString::number(count) : QString();
 }
 
@@ -87,6 +80,13 @@ QRect NxFolderItemPainter::nameEditorRect(const QStyleOptionViewItem &option,
     QRect rect = option.rect;
     rect.setLeft(qMin(placesIn(leftToRight, folder->name(), {}).name.left(), rect.right()));
     return QStyle::visualRect(option.direction, option.rect, rect);
+}
+
+// Asked in this way, an engine answers without listing the folder.
+int NxFolderItemPainter::mediaCount(const INxFolderMedia &folder)
+{
+    const INxAbstractMedia *last = folder.lastMedia(true);
+    return last ? folder.listedPlace(last, true) + 1 : 0;
 }
 
 NxFolderItemPainter::Places NxFolderItemPainter::placesIn(const QStyleOptionViewItem &option,

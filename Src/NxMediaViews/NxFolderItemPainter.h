@@ -7,6 +7,7 @@
 
 #include <memory>
 
+class INxFolderMedia;
 struct NxRowCaches;
 
 /// Paints a row of the folder tree: glyph, name, and how many media the folder and those below it
@@ -28,6 +29,8 @@ public:
     /// From the name to the end of the row.
     [[nodiscard]] QRect nameEditorRect(const QStyleOptionViewItem &option,
                                        const QModelIndex &index) const override;
+    /// The number in the row of a folder, which is left out when it is 0.
+    [[nodiscard]] static int mediaCount(const INxFolderMedia &folder);
 
 private:
     struct Places;

@@ -52,19 +52,20 @@ constexpr std::array<Place, 12> Places = {
     &NxMediaItemLayout::missingMark, &NxMediaItemLayout::addButton, &NxMediaItemLayout::progress,
 };
 
-/// What may be cut at the edge of the row; all else is whole or not there.
+/// What may be cut at the edge of its room; all else is whole or not there.
 bool mayBeCut(Place place)
 {
-    return place == &NxMediaItemLayout::row || place == &NxMediaItemLayout::cover
-           || place == &NxMediaItemLayout::name || place == &NxMediaItemLayout::progress;
+    return place == &NxMediaItemLayout::cover || place == &NxMediaItemLayout::name
+           || place == &NxMediaItemLayout::progress;
 }
 
-void keepInside(NxMediaItemLayout &layout)
+/// The row itself stays as it is.
+void keepInside(NxMediaItemLayout &layout, const QRect &room)
 {
     for (const Place place : Places) {
         QRect &rect = layout.*place;
-        if (!layout.row.contains(rect))
-            rect = mayBeCut(place) ? rect & layout.row : QRect();
+        if (place != &NxMediaItemLayout::row && !room.contains(rect))
+            rect = mayBeCut(place) ? rect & room : QRect();
         if (rect.isEmpty())
             rect = QRect();
     }
@@ -105,32 +106,34 @@ void layTile(NxMediaItemLayout &layout, const ModeMeasures &mode, int lineHeight
     layout.name = {cover.x() + 1, below + Gap, cover.width() - 2, lineHeight};
 }
 
-/// The columns of a list beside cover and name, from the end of the row inwards.
+/// What stands in a list beside cover and name, from the end of the room inwards.
 enum Column { ButtonColumn, DurationColumn, KindColumn, MarksColumn, ColumnCount };
 
 struct ColumnRoom
 {
     Column column;
     int width;
+    int widthBesideCells; // Of a list whose further columns tell kind, length and use; 0: none.
 };
 
 /// The worthiest first: what stands further down gives way earlier.
 constexpr ColumnRoom ColumnRooms[] = {
-    {ButtonColumn, 32},
-    {DurationColumn, 92},
-    {MarksColumn, 3 * MarkStep + 6},
-    {KindColumn, 104},
+    {ButtonColumn, 32, 32},
+    {DurationColumn, 92, 0},
+    {MarksColumn, 3 * MarkStep + 6, 2 * MarkStep + 6},
+    {KindColumn, 104, 0},
 };
 constexpr int NarrowestName = 72;
 
-std::array<int, ColumnCount> columnWidths(int room)
+std::array<int, ColumnCount> columnWidths(int room, bool hasCells)
 {
     std::array<int, ColumnCount> widths{};
     for (const ColumnRoom &it : ColumnRooms) {
-        if (it.width > room)
+        const int width = hasCells ? it.widthBesideCells : it.width;
+        if (width > room)
             break;
-        widths.at(it.column) = it.width;
-        room -= it.width;
+        widths.at(it.column) = width;
+        room -= width;
     }
     return widths;
 }
@@ -142,9 +145,24 @@ QRect takenFrom(int &end, int width, int height)
     return {end, 0, width, height};
 }
 
-void layListColumns(NxMediaItemLayout &layout, const ModeMeasures &mode, int nameLeft, int &end)
+/// Marks one beside the other, in the middle of the height.
+void layMarks(NxMediaItemLayout &layout, const QRect &room, bool hasCells)
 {
-    const std::array<int, ColumnCount> widths = columnWidths(end - nameLeft - NarrowestName);
+    QRect mark(room.x(), (room.height() - Mark) / 2, Mark, Mark);
+    if (!hasCells) {
+        layout.usedMark = mark;
+        mark.translate(MarkStep, 0);
+    }
+    layout.proxyMark = mark;
+    layout.licenceMark = mark.translated(MarkStep, 0);
+}
+
+/// @param end of what is left for the name.
+void layListColumns(NxMediaItemLayout &layout, const ModeMeasures &mode, bool hasCells,
+                    int nameLeft, int &end)
+{
+    const std::array<int, ColumnCount> widths =
+        columnWidths(end - nameLeft - NarrowestName, hasCells);
     const int height = layout.row.height();
     if (widths[ButtonColumn] > 0)
         layout.addButton = centred(takenFrom(end, widths[ButtonColumn], height), mode.button);
@@ -155,24 +173,22 @@ void layListColumns(NxMediaItemLayout &layout, const ModeMeasures &mode, int nam
         layout.kindMark = {kind.x(), (height - Mark) / 2, Mark, Mark};
         layout.kindText = kind.adjusted(MarkStep + 4, 0, 0, 0);
     }
-    if (widths[MarksColumn] > 0) {
-        const QRect marks = takenFrom(end, widths[MarksColumn], height);
-        layout.usedMark = {marks.x(), (height - Mark) / 2, Mark, Mark};
-        layout.proxyMark = layout.usedMark.translated(MarkStep, 0);
-        layout.licenceMark = layout.proxyMark.translated(MarkStep, 0);
-    }
+    if (widths[MarksColumn] > 0)
+        layMarks(layout, takenFrom(end, widths[MarksColumn], height), hasCells);
 }
 
-void layListRow(NxMediaItemLayout &layout, const ModeMeasures &mode, int lineHeight)
+/// @param width of what is laid out; the row may be wider.
+void layListRow(NxMediaItemLayout &layout, const ModeMeasures &mode, int lineHeight, int width,
+                bool hasCells)
 {
     const int height = layout.row.height();
     layout.cover = {{ListMargin, (height - mode.cover.height()) / 2}, mode.cover};
     layout.missingMark = centred(layout.cover, mode.missing);
     const int nameLeft = layout.cover.right() + 1 + ListMargin;
-    int end = layout.row.width() - ListMargin;
-    layListColumns(layout, mode, nameLeft, end);
+    int end = width - ListMargin;
+    layListColumns(layout, mode, hasCells, nameLeft, end);
     const int nameTop = (height - lineHeight) / 2;
-    layout.name = {nameLeft, nameTop, end - ListMargin - nameLeft, lineHeight};
+    layout.name = {nameLeft, nameTop, qMax(0, end - ListMargin - nameLeft), lineHeight};
     layout.progress = {nameLeft, height - BarHeight - 2, layout.name.width(), BarHeight};
 }
 
@@ -188,17 +204,21 @@ QSize NxMediaItemLayout::rowSize(NxMediaItemViewMode mode, int lineHeight, int l
 }
 
 NxMediaItemLayout NxMediaItemLayout::of(NxMediaItemViewMode mode, const QSize &row, int lineHeight,
-                                        Qt::LayoutDirection direction)
+                                        Qt::LayoutDirection direction, int listNameWidth)
 {
     NxMediaItemLayout layout;
     if (row.isEmpty())
         return layout;
     layout.row = QRect({0, 0}, row);
+    const bool hasCells = mode == vmList && listNameWidth > 0;
+    QRect room = layout.row;
+    if (hasCells)
+        room.setWidth(qMin(room.width(), listNameWidth));
     if (mode == vmList)
-        layListRow(layout, measuresOf(mode), lineHeight);
+        layListRow(layout, measuresOf(mode), lineHeight, room.width(), hasCells);
     else
         layTile(layout, measuresOf(mode), lineHeight);
-    keepInside(layout);
+    keepInside(layout, room);
     if (direction == Qt::RightToLeft)
         mirror(layout);
     return layout;

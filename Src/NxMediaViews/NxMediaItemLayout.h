@@ -20,9 +20,12 @@ struct NXMEDIAVIEWS_EXPORT NxMediaItemLayout
     [[nodiscard]] static QSize rowSize(NXMEDIALIBRARY::NxMediaItemViewMode mode, int lineHeight,
                                        int listWidth);
     /// The places in a row of any size.
+    /// @param listNameWidth of a list with columns: the width of the first one, px. Everything but
+    /// the row lies in it, and what other columns tell (kind, length, use) has no place. 0: all
+    /// of the row is laid out.
     [[nodiscard]] static NxMediaItemLayout of(NXMEDIALIBRARY::NxMediaItemViewMode mode,
                                               const QSize &row, int lineHeight,
-                                              Qt::LayoutDirection direction);
+                                              Qt::LayoutDirection direction, int listNameWidth = 0);
     /// The same for a row whose top left corner is there.
     [[nodiscard]] NxMediaItemLayout translated(const QPoint &topLeft) const;
 

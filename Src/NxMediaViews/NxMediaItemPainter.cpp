@@ -5,6 +5,7 @@
 #include <NxMediaViews/NxMediaItemPainter_p.h>
 #include <NxMediaViews/NxMediaRowDrawing_p.h>
 #include <NxVBLModel/INxAbstractMediaItem.h>
+#include <NxVBLModel/INxBsThumbManager.h>
 #include <NxVBLModel/NxMediaIndex.h>
 #include <NxWidgets/NxSkinStyle.h>
 
@@ -38,7 +39,7 @@ bool isImportTile(const INxAbstractMedia *media)
 NxMediaItemLayout NxMediaItemPainter::Private::layoutOf(const QSize &row,
                                                         Qt::LayoutDirection rowDirection) const
 {
-    return NxMediaItemLayout::of(mode, row, lineHeight, rowDirection);
+    return NxMediaItemLayout::of(mode, row, lineHeight, rowDirection, listNameWidth);
 }
 
 std::optional<qreal> NxMediaItemPainter::Private::progressOf(INxAbstractMedia *media) const
@@ -73,6 +74,12 @@ void NxMediaItemPainter::setListWidth(int width)
     fillSizes();
 }
 
+void NxMediaItemPainter::setListNameWidth(int width)
+{
+    d->listNameWidth = qMax(0, width);
+    changeItemChildrenRect();
+}
+
 void NxMediaItemPainter::setNameFont(const QFont &font)
 {
     d->lineHeight = lineHeightOf(font);
@@ -102,6 +109,12 @@ void NxMediaItemPainter::setProxyTest(ProxyTest test)
 QVector<QPersistentModelIndex> NxMediaItemPainter::takeGifRows()
 {
     return d->covers.takeGifRows();
+}
+
+void NxMediaItemPainter::cancelCoverRequests()
+{
+    if (INxBsThumbManager *covers = thumbManager())
+        covers->cancelRequests();
 }
 
 void NxMediaItemPainter::changeItemChildrenRect()

@@ -44,6 +44,10 @@ public:
 
     /// The width of a row in the list, px. 0 at first: then no row of the list shows.
     void setListWidth(int width);
+    /// The width of the first column of a list with columns, px: cover, name, the marks of proxy
+    /// and licence, the bar of progress and the button keep to it, and nothing tells kind, length
+    /// and use. Ground and frame stay as wide as the row. 0 at first: all of the row is used.
+    void setListNameWidth(int width);
     /// The font that the view draws names in: rows become as high as it needs. The application's
     /// at first.
     void setNameFont(const QFont &font);
@@ -61,6 +65,10 @@ public:
     /// the only ones that a view needs to paint when NxCustomDelegate::sigRepaintAll() comes. A row
     /// is answered once, and again only after it was painted.
     [[nodiscard]] QVector<QPersistentModelIndex> takeGifRows();
+
+    /// Covers that were asked for and have not come yet are not wanted any more, unless they are
+    /// painted again; for a view that scrolls on.
+    void cancelCoverRequests();
 
     void changeItemChildrenRect() override;
     /// Rows of what is no media item have no button, tiles have no areas at all.

@@ -33,5 +33,6 @@ struct NxMediaItemPainter::Private
     NXMEDIALIBRARY::NxMediaItemViewMode mode = NXMEDIALIBRARY::vmLargeThumbnail;
     int lineHeight = 0;
     int listWidth = 0;
+    int listNameWidth = 0;
     Qt::LayoutDirection direction = Qt::LeftToRight;
 };

@@ -19,15 +19,6 @@ constexpr int BadgeOpacity = 208; // Of 255.
 constexpr int SmallestKindGlyph = 16; // px, in place of a cover.
 constexpr int LargestKindGlyph = 40;
 
-/// What is known without a look at the disk: a file is missing when somebody knows that.
-bool isMissing(const INxAbstractMediaItem *item)
-{
-    if (!item)
-        return false;
-    return item->isUnavailable()
-           || (!item->isResource() && !NxFile::knownToExist(item->filePath()).value_or(true));
-}
-
 const INxAbstractMediaItem *itemOf(const INxAbstractMedia *media)
 {
     return dynamic_cast<const INxAbstractMediaItem *>(media);
@@ -51,6 +42,14 @@ NxMediaRowDrawing::NxMediaRowDrawing(const NxRowCanvas &canvas, INxAbstractMedia
       m_isMissing(isMissing(m_item)),
       m_kind(nxMediaKind(*media))
 {
+}
+
+bool NxMediaRowDrawing::isMissing(const INxAbstractMediaItem *item)
+{
+    if (!item)
+        return false;
+    return item->isUnavailable()
+           || (!item->isResource() && !NxFile::knownToExist(item->filePath()).value_or(true));
 }
 
 bool NxMediaRowDrawing::hasAddButton(const INxAbstractMedia *media)
@@ -211,6 +210,8 @@ void NxMediaRowDrawing::drawTexts() const
 
 void NxMediaRowDrawing::drawDuration() const
 {
+    if (m_layout.duration.isEmpty())
+        return;
     const QString duration = NxMediaLibraryUtils::getDuration(m_item);
     if (m_isList)
         m_canvas.detail(duration, m_layout.duration, colour(NxSkinColor::Text_Icon_Secondary),

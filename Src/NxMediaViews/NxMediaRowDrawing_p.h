@@ -25,6 +25,10 @@ public:
     /// Whether a media can be added to a timeline from its row: an item that is there.
     [[nodiscard]] static bool hasAddButton(const INxAbstractMedia *media);
 
+    /// What is known without a look at the disk: a file is missing when somebody knows that. Null:
+    /// no.
+    [[nodiscard]] static bool isMissing(const INxAbstractMediaItem *item);
+
     void setList(bool isList) { m_isList = isList; }
     /// In view coordinates.
     void setLayout(const NxMediaItemLayout &layout) { m_layout = layout; }

@@ -1,5 +1,5 @@
 # Installs the build into an empty prefix, moves the prefix (an installed package may lie anywhere),
-# builds Docs/embedding/ and a program that paints a row against it alone, and runs both.
+# builds the programs of Docs/embedding/ and one that paints a row against it alone, and runs them.
 #
 # Needs BUILD_DIR, SOURCE_DIR, WORK_DIR and BUILD_TYPE.
 cmake_minimum_required(VERSION 3.25)
@@ -22,11 +22,13 @@ endif()
 
 step("Installing" ${CMAKE_COMMAND} --install ${BUILD_DIR} --prefix ${WORK_DIR}/installed)
 file(RENAME ${WORK_DIR}/installed ${prefix})
-# build_and_run(FOLDER)   A project of the source tree whose program has the folder's name.
+file(COPY ${SOURCE_DIR}/Docs/embedding ${SOURCE_DIR}/Tests/House/installedViews
+    DESTINATION ${WORK_DIR} PATTERN build EXCLUDE)
+
+# build_and_run(FOLDER)   A project of the working folder whose program has the folder's name.
 function(build_and_run folder)
     cmake_path(GET folder FILENAME name)
-    set(example ${WORK_DIR}/${name})
-    file(COPY ${folder} DESTINATION ${WORK_DIR} PATTERN build EXCLUDE)
+    set(example ${WORK_DIR}/${folder})
     step("Configuring ${name}" ${CMAKE_COMMAND} -S ${example} -B ${example}/build -G Ninja
         -DCMAKE_BUILD_TYPE=${BUILD_TYPE} -DCMAKE_PREFIX_PATH=${prefix}
         -DCMAKE_EXPORT_COMPILE_COMMANDS=ON)
@@ -51,8 +53,9 @@ function(build_and_run folder)
     message("${step_output}")
 endfunction()
 
-build_and_run(${SOURCE_DIR}/Docs/embedding)
-build_and_run(${SOURCE_DIR}/Tests/House/installedViews)
+build_and_run(embedding)
+build_and_run(embedding/panel)
+build_and_run(installedViews)
 
 # The installed program finds the installed worker, and reads a file with it.
 file(WRITE ${WORK_DIR}/words.srt "1\n00:00:01,000 --> 00:00:02,000\nHello\n")

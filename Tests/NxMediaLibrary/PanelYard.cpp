@@ -12,6 +12,7 @@
 #include <NxMediaLibrary/NxMediaLibraryPresenter/NxMediaCategoryPresenter.h>
 #include <NxMediaLibrary/NxMediaLibraryPresenter/NxMediaItemManagerPresenter.h>
 #include <NxMediaLibrary/NxMediaLibraryPresenter/NxMediaLibraryPresenter.h>
+#include <NxMediaViews/NxFolderTreeView.h>
 #include <NxVBLModel/INxAbstractMediaItem.h>
 #include <NxVBLModel/INxFolderMediaManager.h>
 #include <NxVBLModel/INxMediaImporter.h>
@@ -21,7 +22,6 @@
 
 #include <QApplication>
 #include <QTest>
-#include <QTreeView>
 
 #include "PanelList.h"
 
@@ -190,8 +190,8 @@ QStringList PanelYard::rows() const
 
 QStringList PanelYard::selection() const
 {
+    const QStringList shown = namesOf(panel->list()->selectedMedia());
     const QStringList known = namesOf(items()->selectedItems());
-    const QStringList shown = namesOf(panel->selection()->selectedItems());
     if (known == shown)
         return known;
     return QStringList(QStringLiteral("known:")) + known + QStringList(QStringLiteral("shown:"))
@@ -250,7 +250,7 @@ void PanelYard::doubleClick(const QString &name) const
 void PanelYard::pick(INxFolderMedia *folder) const
 {
     bringForward();
-    QTreeView *tree = panel->tree();
+    NxFolderTreeView *tree = panel->tree();
     const QModelIndex index = panel->treeModel()->findIndex(folder);
     QVERIFY(index.isValid());
     tree->scrollTo(index);

@@ -41,7 +41,7 @@ struct DrawnPanel : PanelYard
     {
         footage = dir.makeDir(QStringLiteral("footage"));
         add({copied("30.mov"), copied("many.gif"), copied("tone.wav")});
-        list()->setMediaViewMode(vmMiddleThumbnail);
+        items()->setViewMode(vmMiddleThumbnail);
         film = item(QStringLiteral("30.mov"));
         if (reading == Reading::Everything) {
             QTRY_VERIFY_WITH_TIMEOUT(project->footageService()->isIdle(), Patience);
@@ -63,7 +63,7 @@ struct DrawnPanel : PanelYard
     /// The number of the frame that a row shows; -1: none.
     int frame(const QString &name) const
     {
-        const QRect cover = list()->delegate()->getItemPainter(index(name))->childRect(0);
+        const QRect cover = list()->mediaDelegate()->getItemPainter(index(name))->childRect(0);
         return NxNumberedFrames::read(row(name).copy(cover)).value_or(-1);
     }
     void moveTo(const QString &name) const
@@ -147,7 +147,7 @@ void tst_PanelFlows_drawing::leavingTheRowBringsItsCoverBack()
     QTRY_VERIFY_WITH_TIMEOUT(yard.frame(QStringLiteral("30.mov")) != cover, Patience);
     yard.moveAway();
     QTRY_COMPARE_WITH_TIMEOUT(yard.frame(QStringLiteral("30.mov")), cover, Patience);
-    QVERIFY(!yard.list()->delegate()->previewFrameHelper()->getMedia());
+    QVERIFY(!yard.list()->mediaDelegate()->previewFrameHelper()->getMedia());
 }
 
 void tst_PanelFlows_drawing::aHoveredFilmThatIsRemovedStopsPlaying()
@@ -160,9 +160,9 @@ void tst_PanelFlows_drawing::aHoveredFilmThatIsRemovedStopsPlaying()
     yard.press(QKeySequence::Delete);
     QCOMPARE(yard.rows(), lines({"many.gif", "tone.wav"}));
     yard.list()->viewport()->grab();
-    QSignalSpy steps(yard.list()->delegate(), &NxCustomDelegate::sigRepaint);
+    QSignalSpy steps(yard.list()->mediaDelegate(), &NxCustomDelegate::sigRepaint);
     yard.moveTo(QStringLiteral("tone.wav"));
-    QVERIFY(yard.list()->delegate()->previewFrameHelper()->getMedia()
+    QVERIFY(yard.list()->mediaDelegate()->previewFrameHelper()->getMedia()
             == yard.media(QStringLiteral("tone.wav")));
     yard.list()->viewport()->grab();
 }
@@ -182,7 +182,7 @@ void tst_PanelFlows_drawing::aHoveredFilmThatVanishesKeepsPlayingItsStrip()
 void tst_PanelFlows_drawing::aGifMovesByItself()
 {
     const DrawnPanel yard;
-    QTRY_VERIFY_WITH_TIMEOUT(yard.list()->gifRepaints() > 3, Patience);
+    QTRY_VERIFY_WITH_TIMEOUT(yard.list()->paints() > 3, Patience);
     QSet<int> seen;
     const auto look = [&] {
         seen.insert(yard.frame(QStringLiteral("many.gif")));
@@ -194,28 +194,28 @@ void tst_PanelFlows_drawing::aGifMovesByItself()
 void tst_PanelFlows_drawing::aPanelThatIsHiddenPaintsNothing()
 {
     const DrawnPanel yard;
-    QTRY_VERIFY_WITH_TIMEOUT(yard.list()->gifRepaints() > 3, Patience);
+    QTRY_VERIFY_WITH_TIMEOUT(yard.list()->paints() > 3, Patience);
     yard.panel->hide();
     QSignalSpy ticks(NxGifPreviewHelper::getInstance(), &NxGifPreviewHelper::sigUpdate);
-    const int before = yard.list()->gifRepaints();
+    const int before = yard.list()->paints();
     QVERIFY(!ticks.wait(300));
-    QCOMPARE(yard.list()->gifRepaints(), before);
+    QCOMPARE(yard.list()->paints(), before);
     yard.panel->show();
-    QTRY_VERIFY_WITH_TIMEOUT(yard.list()->gifRepaints() > before + 3, Patience);
+    QTRY_VERIFY_WITH_TIMEOUT(yard.list()->paints() > before + 3, Patience);
 }
 
 void tst_PanelFlows_drawing::aPanelWithoutGifsPaintsNothingByItself()
 {
     const DrawnPanel yard;
-    QTRY_VERIFY_WITH_TIMEOUT(yard.list()->gifRepaints() > 3, Patience);
+    QTRY_VERIFY_WITH_TIMEOUT(yard.list()->paints() > 3, Patience);
     INxFolderMedia *empty = yard.addFolder(QStringLiteral("Empty"));
     yard.pick(empty);
     QSignalSpy ticks(NxGifPreviewHelper::getInstance(), &NxGifPreviewHelper::sigUpdate);
     QVERIFY(ticks.wait(Patience)); // Rows that went are asked for once more, in vain.
-    const int before = yard.list()->gifRepaints();
+    const int before = yard.list()->paints();
     for (int tick = 0; tick < 5; ++tick)
         QVERIFY(ticks.wait(Patience));
-    QCOMPARE(yard.list()->gifRepaints(), before);
+    QCOMPARE(yard.list()->paints(), before);
 }
 
 void tst_PanelFlows_drawing::aGroupFoldsWhereItsArrowIsClicked()
@@ -250,7 +250,7 @@ void tst_PanelFlows_drawing::aGroupFoldsWhereItsArrowIsClicked()
 void tst_PanelFlows_drawing::clicksReachTheHostTwice()
 {
     const DrawnPanel yard;
-    QSignalSpy events(yard.list()->delegate(), &NxMediaItemDelegate::sigMediaItemEvent);
+    QSignalSpy events(yard.list()->mediaDelegate(), &NxMediaItemDelegate::sigMediaItemEvent);
     yard.click(QStringLiteral("tone.wav"));
     QCOMPARE(events.size(), 2);
     const auto condition = [&](int at) {
@@ -265,7 +265,7 @@ void tst_PanelFlows_drawing::clicksReachTheHostTwice()
 void tst_PanelFlows_drawing::aModalMaskKeepsClicksAway()
 {
     const DrawnPanel yard;
-    QSignalSpy events(yard.list()->delegate(), &NxMediaItemDelegate::sigMediaItemEvent);
+    QSignalSpy events(yard.list()->mediaDelegate(), &NxMediaItemDelegate::sigMediaItemEvent);
     {
         const NxMaskScope mask(nullptr);
         yard.click(QStringLiteral("tone.wav"));
@@ -292,7 +292,7 @@ void tst_PanelFlows_drawing::aNameIsEditedWhereItStands()
 void tst_PanelFlows_drawing::aMissingFileIsNeitherClickedNorDragged()
 {
     DrawnPanel yard;
-    QSignalSpy events(yard.list()->delegate(), &NxMediaItemDelegate::sigMediaItemEvent);
+    QSignalSpy events(yard.list()->mediaDelegate(), &NxMediaItemDelegate::sigMediaItemEvent);
     QSignalSpy drags(yard.list(), &PanelList::draggedOut);
     const auto drag = [&] {
         QWidget *viewport = yard.list()->viewport();
@@ -316,8 +316,7 @@ void tst_PanelFlows_drawing::aMissingFileIsNeitherClickedNorDragged()
     events.clear();
     yard.click(QStringLiteral("tone.wav"));
     drag();
-    QCOMPARE(drags.size(), 2);
-    QCOMPARE(drags.at(1).at(0).value<Medias>(), Medias());
+    QCOMPARE(drags.size(), 1);
     QCOMPARE(events.size(), 0);
 }
 

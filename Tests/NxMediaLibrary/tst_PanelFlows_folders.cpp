@@ -5,6 +5,7 @@
 #include <NxMediaLibrary/NxMediaLibraryPresenter/NxFolderMediaManagerPresenter.h>
 #include <NxMediaLibrary/NxMediaLibraryPresenter/NxMediaItemManagerPresenter.h>
 #include <NxMediaLibrary/NxMediaLibraryPresenter/NxMediaLibraryPresenter.h>
+#include <NxMediaViews/NxFolderTreeView.h>
 #include <NxVBLModel/INxAbstractMediaItem.h>
 #include <NxVBLModel/NxMediaLibraryImportMediaMessage.h>
 #include <NxVBLModel/NxMediaLibraryRemoveMediaMessage.h>

@@ -44,10 +44,10 @@ QString textOf(const NxMediaItemLayout &layout)
 }
 
 NxMediaItemLayout laidOut(NxMediaItemViewMode mode, int listWidth = 600,
-                          Qt::LayoutDirection direction = Qt::LeftToRight)
+                          Qt::LayoutDirection direction = Qt::LeftToRight, int nameWidth = 0)
 {
     return NxMediaItemLayout::of(mode, NxMediaItemLayout::rowSize(mode, Line, listWidth), Line,
-                                 direction);
+                                 direction, nameWidth);
 }
 
 } // namespace
@@ -64,6 +64,10 @@ private Q_SLOTS:
     void nothingOverlapsOnATile();
     void columnsGiveWayBeforeTheName_data();
     void columnsGiveWayBeforeTheName();
+    void aFirstColumnHoldsAllButTheRow_data();
+    void aFirstColumnHoldsAllButTheRow();
+    void aFirstColumnIsMirroredWithTheRow();
+    void tilesHaveNoFirstColumn();
     void aMirroredRowIsTheMirrorImage_data();
     void aMirroredRowIsTheMirrorImage();
     void noSizeLeadsOutsideTheRow_data();
@@ -180,6 +184,61 @@ void tst_NxMediaItemLayout::columnsGiveWayBeforeTheName()
         columns += QStringLiteral("kind");
     QTEST(columns.join(QLatin1Char(' ')), "columns");
     QVERIFY(layout.name.width() >= 64);
+}
+
+void tst_NxMediaItemLayout::aFirstColumnHoldsAllButTheRow_data()
+{
+    QTest::addColumn<int>("nameWidth");
+    QTest::addColumn<QString>("places");
+    const auto row = [](const char *name, int nameWidth, const QString &places) {
+        QTest::newRow(name) << nameWidth << places;
+    };
+    row("wide", 300,
+        QStringLiteral("cover 8,4 48x27\nname 64,7 146x20\nproxy 218,9 16x16\n"
+                       "licence 236,9 16x16\nmissing 24,9 16x16\nadd 266,7 20x20\n"
+                       "progress 64,30 146x3"));
+    row("no room for marks", 200,
+        QStringLiteral("cover 8,4 48x27\nname 64,7 88x20\nmissing 24,9 16x16\n"
+                       "add 166,7 20x20\nprogress 64,30 88x3"));
+    row("no room for the button", 160,
+        QStringLiteral("cover 8,4 48x27\nname 64,7 80x20\nmissing 24,9 16x16\n"
+                       "progress 64,30 80x3"));
+    row("no room for a name", 60, QStringLiteral("cover 8,4 48x27\nmissing 24,9 16x16"));
+    row("half a cover", 32, QStringLiteral("cover 8,4 24x27"));
+    row("nothing but its edge", 8, QString());
+    row("as wide as the row", 600,
+        QStringLiteral("cover 8,4 48x27\nname 64,7 446x20\nproxy 518,9 16x16\n"
+                       "licence 536,9 16x16\nmissing 24,9 16x16\nadd 566,7 20x20\n"
+                       "progress 64,30 446x3"));
+    row("wider than the row", 2000,
+        QStringLiteral("cover 8,4 48x27\nname 64,7 446x20\nproxy 518,9 16x16\n"
+                       "licence 536,9 16x16\nmissing 24,9 16x16\nadd 566,7 20x20\n"
+                       "progress 64,30 446x3"));
+}
+
+void tst_NxMediaItemLayout::aFirstColumnHoldsAllButTheRow()
+{
+    QFETCH(int, nameWidth);
+    const NxMediaItemLayout layout = laidOut(vmList, 600, Qt::LeftToRight, nameWidth);
+    QCOMPARE(layout.row, QRect(0, 0, 600, 35));
+    QTEST(textOf(layout), "places");
+}
+
+void tst_NxMediaItemLayout::aFirstColumnIsMirroredWithTheRow()
+{
+    const NxMediaItemLayout layout = laidOut(vmList, 600, Qt::RightToLeft, 300);
+    QCOMPARE(layout.row, QRect(0, 0, 600, 35));
+    QCOMPARE(layout.cover, QRect(544, 4, 48, 27));
+    QCOMPARE(layout.name, QRect(390, 7, 146, 20));
+    QCOMPARE(layout.addButton, QRect(314, 7, 20, 20));
+    QVERIFY(layout.usedMark.isNull());
+    QCOMPARE(laidOut(vmList, 600, Qt::RightToLeft, 32).cover, QRect(568, 4, 24, 27));
+}
+
+void tst_NxMediaItemLayout::tilesHaveNoFirstColumn()
+{
+    for (const auto mode : {vmSmallThumbnail, vmMiddleThumbnail, vmLargeThumbnail})
+        QCOMPARE(textOf(laidOut(mode, 600, Qt::LeftToRight, 40)), textOf(laidOut(mode)));
 }
 
 void tst_NxMediaItemLayout::aMirroredRowIsTheMirrorImage_data()

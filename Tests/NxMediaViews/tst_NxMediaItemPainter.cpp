@@ -40,6 +40,13 @@ class tst_NxMediaItemPainter : public QObject
 private Q_SLOTS:
     void eachModeHasItsSize();
     void theListIsAsWideAsItIsTold();
+    void aFirstColumnLeavesTheSizeOfRowsAlone();
+    void aFirstColumnHoldsWhatIsDrawn_data();
+    void aFirstColumnHoldsWhatIsDrawn();
+    void theFrameStaysAsWideAsTheRow_data();
+    void theFrameStaysAsWideAsTheRow();
+    void theMouseFollowsTheFirstColumn();
+    void withoutAFirstColumnTheWholeRowIsUsed();
     void largerFontsMakeRoomForThemselves();
     void childrenLieWhereTheyAreDrawn_data();
     void childrenLieWhereTheyAreDrawn();
@@ -76,6 +83,107 @@ void tst_NxMediaItemPainter::theListIsAsWideAsItIsTold()
     stand.painter->setViewMode(vmSmallThumbnail);
     stand.painter->setListWidth(400);
     QCOMPARE(stand.painter->size(), QSize(108, 90));
+}
+
+void tst_NxMediaItemPainter::aFirstColumnLeavesTheSizeOfRowsAlone()
+{
+    const RowStand stand;
+    stand.painter->setViewMode(vmList);
+    stand.painter->setListNameWidth(250);
+    QCOMPARE(stand.painter->size(), QSize(600, 35));
+    stand.painter->setViewMode(vmSmallThumbnail);
+    QCOMPARE(stand.painter->size(), QSize(108, 90));
+    QCOMPARE(stand.painter->childRect(NxMediaItemPainter::ccName), QRect(7, 66, 94, 20));
+}
+
+void tst_NxMediaItemPainter::aFirstColumnHoldsWhatIsDrawn_data()
+{
+    QTest::addColumn<Qt::LayoutDirection>("direction");
+    QTest::addColumn<QRect>("beside");
+    QTest::newRow("from the left") << Qt::LeftToRight << QRect(250, 0, 350, 35);
+    QTest::newRow("from the right") << Qt::RightToLeft << QRect(0, 0, 350, 35);
+}
+
+void tst_NxMediaItemPainter::aFirstColumnHoldsWhatIsDrawn()
+{
+    QFETCH(Qt::LayoutDirection, direction);
+    QFETCH(QRect, beside);
+    RowStand stand;
+    GalleryItem item(NXVBLMODEL::mtVideoAudio, QStringLiteral("A name of a clip that is too long"));
+    item.used = 3;
+    item.info.frames = 250;
+    item.licence = NXVBLMODEL::lsPremium;
+    stand.show(&item);
+    stand.direction = direction;
+    stand.painter->setViewMode(vmList);
+    stand.painter->setProxyTest([](const INxAbstractMediaItem *) { return true; });
+    stand.painter->setProgress(&item, 1, 2);
+    const QColor ground = stand.colour(NxSkinColor::Background_Panel);
+    const auto inkBeside = [&] {
+        return beside.width() * beside.height() - pixelsOf(stand.painted(), beside, ground);
+    };
+    QVERIFY(inkBeside() > 0);
+    stand.painter->setListNameWidth(250);
+    QCOMPARE(inkBeside(), 0);
+    const QImage picture = stand.painted();
+    const NxMediaItemLayout layout =
+        NxMediaItemLayout::of(vmList, stand.painter->size(), 20, direction, 250);
+    QVERIFY(pixelsNear(picture, layout.proxyMark, stand.colour(NxSkinColor::Accent)) > 0);
+    QVERIFY(pixelsNear(picture, layout.licenceMark, stand.colour(NxSkinColor::Licence_Premium))
+            > 0);
+    QVERIFY(pixelsNear(picture, layout.name, stand.colour(NxSkinColor::Text_Icon_Primary)) > 0);
+}
+
+void tst_NxMediaItemPainter::theFrameStaysAsWideAsTheRow_data()
+{
+    QTest::addColumn<int>("state");
+    QTest::newRow("hovered") << int(Hovered);
+    QTest::newRow("selected") << int(Selected);
+}
+
+void tst_NxMediaItemPainter::theFrameStaysAsWideAsTheRow()
+{
+    QFETCH(int, state);
+    RowStand stand;
+    GalleryItem item;
+    stand.show(&item);
+    stand.painter->setViewMode(vmList);
+    stand.painter->setListNameWidth(250);
+    const QRect end(560, 4, 30, 26);
+    const QImage picture = stand.painted(QStyle::State(state));
+    const QColor ground = stand.colour(state == int(Hovered) ? NxSkinColor::State_Hover
+                                                             : NxSkinColor::State_Selected);
+    QCOMPARE(pixelsOf(picture, end, ground), end.width() * end.height());
+}
+
+void tst_NxMediaItemPainter::theMouseFollowsTheFirstColumn()
+{
+    RowStand stand;
+    GalleryItem item;
+    stand.show(&item);
+    stand.painter->setViewMode(vmList);
+    stand.painter->setListNameWidth(250);
+    QCOMPARE(stand.painter->childRect(NxMediaItemPainter::ccAddButton), QRect(216, 7, 20, 20));
+    QCOMPARE(stand.painter->nameEditorRect(stand.option(), stand.index()), QRect(64, 7, 96, 20));
+    stand.painter->setListNameWidth(200);
+    QCOMPARE(stand.painter->childRect(NxMediaItemPainter::ccAddButton), QRect(166, 7, 20, 20));
+    stand.painter->setLayoutDirection(Qt::RightToLeft);
+    QCOMPARE(stand.painter->childRect(NxMediaItemPainter::ccAddButton), QRect(414, 7, 20, 20));
+}
+
+void tst_NxMediaItemPainter::withoutAFirstColumnTheWholeRowIsUsed()
+{
+    RowStand stand;
+    GalleryItem item;
+    stand.show(&item);
+    stand.painter->setViewMode(vmList);
+    const QImage before = stand.painted(Hovered);
+    stand.painter->setListNameWidth(250);
+    QVERIFY(differenceOf(stand.painted(Hovered), before) > 0);
+    stand.painter->setListNameWidth(-3);
+    QCOMPARE(differenceOf(stand.painted(Hovered), before), 0);
+    QCOMPARE(stand.painter->childRect(NxMediaItemPainter::ccAddButton),
+             stand.layout(vmList).addButton);
 }
 
 void tst_NxMediaItemPainter::largerFontsMakeRoomForThemselves()
