@@ -8,6 +8,7 @@
 #include <NxVBLModel/INxMediaInfo.h>
 #include <NxVBLModel/NxStreamInfo.h>
 
+#include <algorithm>
 #include <memory>
 #include <vector>
 
@@ -69,6 +70,9 @@ public:
     int listOrder() const override { return place; }
     int sale() const override { return sold; }
     qint64 sourceSize() const override { return size; }
+    QString mediaId() const override { return QLatin1String("id-") + m_path; }
+    bool isUnavailable() const override { return !trouble.isEmpty(); }
+    QString unavailableReason() const override { return trouble; }
 
     NXVBLMODEL::NxMediaType type = NXVBLMODEL::mtVideoAudio;
     int licence = NXVBLMODEL::lsNone;
@@ -88,6 +92,7 @@ public:
     int place = 0;
     int sold = 0;
     qint64 size = -1;
+    QString trouble; ///< Why it cannot be used; empty when it can.
 
 private:
     INxFolderMedia *const m_folder; // Not owned.
@@ -121,6 +126,11 @@ public:
     int kind() const override { return m_kind; }
     bool isKind(int folderKind) const override { return folderKind == m_kind; }
     int folderId() const override { return m_kind; }
+    INxMediaManager *mediaManager() const override
+    {
+        return managed || !m_parent ? managed : m_parent->mediaManager();
+    }
+    INxMediaManager *managed = nullptr; ///< Null: as the parent says. Not owned.
     /// A folder without a parent is a section, and so is what stands in a root.
     bool isRoot() const { return m_kind == rootKind; }
     static constexpr int rootKind = -1;
@@ -151,6 +161,12 @@ public:
         for (const auto &child : m_children)
             result += recursive ? child->items(true, true) : QList<INxAbstractMedia *>();
         return result;
+    }
+    /// The media dies.
+    void destroy(const FakeItem *dying)
+    {
+        m_items.erase(std::find_if(m_items.begin(), m_items.end(),
+                                   [dying](const auto &item) { return item.get() == dying; }));
     }
     INxAbstractMedia *findMediaByPath(const QString &path, bool recursive) const override
     {

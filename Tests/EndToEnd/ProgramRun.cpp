@@ -46,8 +46,8 @@ void ProgramRun::launch(const QString &program, const QStringList &arguments, co
 {
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
     environment.insert(QStringLiteral("BREVANO"), QStringLiteral(NX_BREVANO));
-    environment.remove(QStringLiteral("DISPLAY"));
-    environment.remove(QStringLiteral("QT_QPA_PLATFORM"));
+    for (const char *display : {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM"})
+        environment.remove(QLatin1String(display));
     if (isForNobody())
         programForAll().addLibrariesTo(&environment);
     setProcessEnvironment(environment);

@@ -13,18 +13,12 @@ namespace {
 
 const QString sourceFolder = QStringLiteral(NX_SOURCE_DIR);
 
-/// What the fake brevano of a yard does: answers the code of the file "import-code" to an import.
-const QString fakeBrevano =
-    QStringLiteral("if [[ $1 == import ]]; then exit \"$(cat \"${0%/*}/import-code\")\"; fi");
-
-/// Puts a brevano whose import ends with \a code where the build would leave it.
+/// Puts a brevano that ends with \a code where the build would leave it.
 void placeBrevano(ScriptYard *yard, int code)
 {
     yard->fakeProgram(QStringLiteral("cmake"));
-    yard->writeProgram(QStringLiteral("build/release/bin/brevano"), fakeBrevano);
-    QFile file(yard->folder() + QStringLiteral("/build/release/bin/import-code"));
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    file.write(QByteArray::number(code));
+    yard->writeProgram(QStringLiteral("build/release/bin/brevano"),
+                       QStringLiteral("exit %1").arg(code));
 }
 
 QStringList callsOf(const ScriptYard &yard, const QString &program)
@@ -53,10 +47,10 @@ private Q_SLOTS:
     void sudoIsAskedForOnce();
     void anInstallationThatFailsIsTold();
 
-    void runImportsAndLists_data();
-    void runImportsAndLists();
-    void runEndsAsTheImportEnded_data();
-    void runEndsAsTheImportEnded();
+    void runShowsTheFootageInAProject_data();
+    void runShowsTheFootageInAProject();
+    void runEndsAsTheProgramEnded_data();
+    void runEndsAsTheProgramEnded();
     void runMakesSamplesWithoutArguments();
     void runTellsThatTheBuildFailed();
     void listingStandsAloneOnStandardOutput();
@@ -126,6 +120,9 @@ void tst_Scripts::usage_data()
         << run << QStringList{project} << 2 << QStringLiteral("run: --project needs a file");
     QTest::newRow("project with an empty name") << run << QStringList{project, QString()} << 2
                                                 << QStringLiteral("run: --project needs a file");
+    QTest::newRow("project without its suffix")
+        << run << QStringList{project, QStringLiteral("Film.mp4")} << 2
+        << QStringLiteral("run: --project needs a file whose name ends in .brevano");
     QTest::newRow("an empty name")
         << run << QStringList{QString()} << 2 << QStringLiteral("run: an empty file name");
     QTest::newRow("help of check")
@@ -261,40 +258,36 @@ void tst_Scripts::anInstallationThatFailsIsTold()
     QVERIFY(result.errors.contains(QLatin1String("could not be installed")));
 }
 
-void tst_Scripts::runImportsAndLists_data()
+void tst_Scripts::runShowsTheFootageInAProject_data()
 {
     QTest::addColumn<QStringList>("arguments");
-    QTest::addColumn<QStringList>("calls");
+    QTest::addColumn<QString>("call");
 
     const QString clip = QStringLiteral("a.mp4");
-    const QString list = QStringLiteral("brevano list Media.brevano");
+    const QString project = QStringLiteral("--project");
     QTest::newRow("footage goes into the project of this folder")
         << QStringList{clip, QStringLiteral("My clips")}
-        << QStringList{QStringLiteral("brevano import Media.brevano a.mp4 My clips"), list};
+        << QStringLiteral("brevano Media.brevano a.mp4 My clips");
     QTest::newRow("a project of another name")
-        << QStringList{QStringLiteral("--project"), QStringLiteral("../P.brevano"), clip}
-        << QStringList{QStringLiteral("brevano import ../P.brevano a.mp4"),
-                       QStringLiteral("brevano list ../P.brevano")};
+        << QStringList{project, QStringLiteral("../P.brevano"), clip}
+        << QStringLiteral("brevano ../P.brevano a.mp4");
     QTest::newRow("options may follow footage")
-        << QStringList{clip, QStringLiteral("--project=P.brevano")}
-        << QStringList{QStringLiteral("brevano import P.brevano a.mp4"),
-                       QStringLiteral("brevano list P.brevano")};
+        << QStringList{clip, QStringLiteral("--project=P.Brevano")}
+        << QStringLiteral("brevano P.Brevano a.mp4");
     QTest::newRow("names that begin with a dash")
-        << QStringList{QStringLiteral("--"), QStringLiteral("-a.mp4"), QStringLiteral("--project")}
-        << QStringList{QStringLiteral("brevano import Media.brevano ./-a.mp4 ./--project"), list};
+        << QStringList{QStringLiteral("--"), QStringLiteral("-a.mp4"), project}
+        << QStringLiteral("brevano Media.brevano ./-a.mp4 ./--project");
     QTest::newRow("a project that begins with a dash")
-        << QStringList{QStringLiteral("--project"), QStringLiteral("-P"), clip}
-        << QStringList{QStringLiteral("brevano import ./-P a.mp4"),
-                       QStringLiteral("brevano list ./-P")};
-    QTest::newRow("a project alone is listed")
-        << QStringList{QStringLiteral("--project"), QStringLiteral("P.brevano")}
-        << QStringList{QStringLiteral("brevano list P.brevano")};
+        << QStringList{project, QStringLiteral("-P.brevano"), clip}
+        << QStringLiteral("brevano ./-P.brevano a.mp4");
+    QTest::newRow("a project alone") << QStringList{project, QStringLiteral("P.brevano")}
+                                     << QStringLiteral("brevano P.brevano");
 }
 
-void tst_Scripts::runImportsAndLists()
+void tst_Scripts::runShowsTheFootageInAProject()
 {
     QFETCH(QStringList, arguments);
-    QFETCH(QStringList, calls);
+    QFETCH(QString, call);
     ScriptYard yard;
     placeBrevano(&yard, 0);
     QVERIFY(yard.isValid());
@@ -302,38 +295,31 @@ void tst_Scripts::runImportsAndLists()
     const CommandResult result = yard.run(QStringLiteral("run"), arguments);
 
     QVERIFY2(result.code == 0, qPrintable(result.errors));
-    QCOMPARE(callsOf(yard, QStringLiteral("brevano")), calls);
+    QCOMPARE(callsOf(yard, QStringLiteral("brevano")), QStringList{call});
 }
 
-void tst_Scripts::runEndsAsTheImportEnded_data()
+void tst_Scripts::runEndsAsTheProgramEnded_data()
 {
     QTest::addColumn<int>("code");
-    QTest::addColumn<bool>("projectExists");
-    QTest::addColumn<bool>("listed");
 
-    QTest::newRow("done") << 0 << true << true;
-    QTest::newRow("some refused") << 3 << true << true;
-    QTest::newRow("nothing done, in a project") << 1 << true << true;
-    QTest::newRow("nothing done, and no project") << 1 << false << false;
-    QTest::newRow("project cannot be opened") << 4 << true << false;
-    QTest::newRow("interrupted") << 130 << true << false;
+    QTest::newRow("done") << 0;
+    QTest::newRow("nothing done") << 1;
+    QTest::newRow("some refused") << 3;
+    QTest::newRow("project cannot be opened") << 4;
+    QTest::newRow("interrupted") << 130;
 }
 
-void tst_Scripts::runEndsAsTheImportEnded()
+void tst_Scripts::runEndsAsTheProgramEnded()
 {
     QFETCH(int, code);
-    QFETCH(bool, projectExists);
-    QFETCH(bool, listed);
     ScriptYard yard;
     placeBrevano(&yard, code);
-    QFile project(yard.userFolder() + QStringLiteral("/Media.brevano"));
-    QVERIFY(!projectExists || project.open(QIODevice::WriteOnly));
     QVERIFY(yard.isValid());
 
     const CommandResult result = yard.run(QStringLiteral("run"), {QStringLiteral("a.mp4")});
 
     QCOMPARE(result.code, code);
-    QCOMPARE(callsOf(yard, QStringLiteral("brevano list")).size(), listed ? 1 : 0);
+    QCOMPARE(callsOf(yard, QStringLiteral("brevano")).size(), 1);
 }
 
 void tst_Scripts::runMakesSamplesWithoutArguments()
@@ -350,9 +336,7 @@ void tst_Scripts::runMakesSamplesWithoutArguments()
     const QString sample = yard.folder() + QStringLiteral("/build/sample/");
     const QStringList expected{
         QStringLiteral("make-samples %1footage").arg(sample),
-        QStringLiteral("brevano import %1Sample.brevano %1footage/Music %1footage/Stills")
-            .arg(sample),
-        QStringLiteral("brevano list %1Sample.brevano").arg(sample)};
+        QStringLiteral("brevano %1Sample.brevano %1footage/Music %1footage/Stills").arg(sample)};
     QCOMPARE(callsOf(yard, QStringLiteral("(make-samples|brevano)")), expected);
 }
 
@@ -375,12 +359,12 @@ void tst_Scripts::listingStandsAloneOnStandardOutput()
     ScriptYard yard;
     placeBrevano(&yard, 0);
     yard.fakeProgram(QStringLiteral("cmake"), QStringLiteral("echo building"));
-    yard.writeProgram(QStringLiteral("build/release/bin/brevano"), QStringLiteral("echo $1"));
+    yard.writeProgram(QStringLiteral("build/release/bin/brevano"), QStringLiteral("echo \"$@\""));
     QVERIFY(yard.isValid());
 
     const CommandResult result = yard.run(QStringLiteral("run"), {QStringLiteral("a.mp4")});
 
-    QCOMPARE(result.output, QStringLiteral("import\nlist\n"));
+    QCOMPARE(result.output, QStringLiteral("Media.brevano a.mp4\n"));
     QVERIFY(result.errors.contains(QLatin1String("building")));
 }
 

@@ -46,7 +46,10 @@ QStringList exitCodes()
 
 QStringList CommandHelp::overview()
 {
-    QStringList lines{QStringLiteral("Usage:")};
+    QStringList lines{
+        QStringLiteral("Usage:"),
+        QStringLiteral("  brevano [PROJECT.brevano] [FILE|FOLDER...]"),
+    };
     for (const CommandEntry &entry : CommandTable::entries()) {
         for (const char *synopsis : entry.synopses)
             lines += form(entry, synopsis);
@@ -55,6 +58,11 @@ QStringList CommandHelp::overview()
         QStringLiteral("  brevano help COMMAND"),
         QStringLiteral("  brevano --version"),
         QString(),
+        QStringLiteral("Without a command the window is opened, with the project that is named; "
+                       "files are imported"),
+        QStringLiteral("into it, or into Media.brevano of this folder. Without a display the panel "
+                       "is drawn into"),
+        QStringLiteral("brevano-panel.png, and the project is listed."),
         QStringLiteral("FOLDER is a path within the project: \"Holiday/Day 1\"; \"\\/\" and "
                        "\"\\\\\" stand for"),
         QStringLiteral("\"/\" and \"\\\" in a name. NAME_OR_PATH is a path when it contains a "

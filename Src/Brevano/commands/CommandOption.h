@@ -26,6 +26,13 @@ constexpr CommandOption group{"--group", "KEY", "what the rows are put together 
 constexpr CommandOption groupDesc{"--group-desc", nullptr, "groups the other way round"};
 constexpr CommandOption type{"--type", "VALUE", "only what is of this type or licence"};
 constexpr CommandOption search{"--search", "TEXT", "only names with this text"};
+constexpr CommandOption out{"--out", "FILE.png", "where the picture goes"};
+constexpr CommandOption size{"--size", "WxH", "of the window in points: 1280x800 without it"};
+constexpr CommandOption scale{"--scale", "N", "pixels of the picture for each point: 1 or 2"};
+constexpr CommandOption view{"--view", "MODE", "how the media are shown"};
+constexpr CommandOption selected{"--select", "NAME", "the media of this name is selected"};
+constexpr CommandOption skin{"--skin", "SKIN", "the colours of the window"};
+constexpr CommandOption language{"--lang", "CODE", "the language of its texts"};
 constexpr CommandOption columns{"--columns", nullptr, "with the columns of the list view"};
 constexpr CommandOption noRead{"--no-read", nullptr, "do not look into the files now"};
 constexpr CommandOption to{"--to", "FILE", "the file that takes the place of the media's"};

@@ -10,6 +10,8 @@
 
 namespace {
 
+const auto VersionWord = QStringLiteral("--version");
+
 bool isHelp(const QString &word)
 {
     return word == QLatin1String("--help") || word == QLatin1String("-h")
@@ -27,12 +29,17 @@ QString numberFault(const CommandEntry &entry, int names)
 
 } // namespace
 
+bool CommandRunner::isCommand(const QString &word)
+{
+    return word == VersionWord || isHelp(word) || CommandTable::find(word);
+}
+
 int CommandRunner::run(const ProgramArguments &words)
 {
     if (words.isEmpty())
         return wrongUsage(QStringLiteral("a command is missing"));
     const QString first = words.constFirst().text;
-    if (first == QLatin1String("--version")) {
+    if (first == VersionWord) {
         m_console->line(QLatin1String("brevano " NX_VERSION));
         return Done;
     }

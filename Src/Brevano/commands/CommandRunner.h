@@ -13,13 +13,17 @@ class CommandRunner
 public:
     explicit CommandRunner(Console *console) : m_console(console) {}
 
+    /// Whether a first word names a command, the help or the version.
+    [[nodiscard]] static bool isCommand(const QString &word);
+
     /// Answers an ExitCode.
     [[nodiscard]] int run(const ProgramArguments &words);
+    /// Says what is wrong with the words; answers WrongUsage.
+    [[nodiscard]] int wrongUsage(const QString &text);
 
 private:
     [[nodiscard]] int help(const ProgramArguments &names);
     [[nodiscard]] int runCommand(const CommandEntry &entry, const ProgramArguments &words);
-    [[nodiscard]] int wrongUsage(const QString &text);
     void print(const QStringList &lines);
 
     Console *const m_console; // Not owned.

@@ -40,7 +40,7 @@ using namespace CommandOptions;
 
 constexpr int any = CommandEntry::AnyNumber;
 
-const QVector<CommandEntry> table{
+QVector<CommandEntry> table{
     {"import",
      {"PROJECT FILE|FOLDER..."},
      "Brings files into a project, which is made when it is not there. A folder is taken with\n"
@@ -145,6 +145,11 @@ const QVector<CommandEntry> table{
 const QVector<CommandEntry> &CommandTable::entries()
 {
     return table;
+}
+
+void CommandTable::add(const CommandEntry &entry)
+{
+    table.append(entry);
 }
 
 const CommandEntry *CommandTable::find(const QString &name)

@@ -27,6 +27,8 @@ struct CommandEntry
 namespace CommandTable {
 
 [[nodiscard]] const QVector<CommandEntry> &entries();
+/// A command that stands in another library than the others; before the first is looked for.
+void add(const CommandEntry &entry);
 /// Null when there is none of this name.
 [[nodiscard]] const CommandEntry *find(const QString &name);
 

@@ -16,6 +16,10 @@ void prepareProcess();
 /// The words after the program's name.
 [[nodiscard]] ProgramArguments programArguments(int argc, char **argv);
 
+/// Whether windows can be shown, as far as the surroundings tell: a display may be named that is
+/// not there.
+[[nodiscard]] bool hasDisplay();
+
 /// Whether somebody watches this stream.
 [[nodiscard]] bool isTerminal(std::FILE *stream);
 

@@ -7,10 +7,14 @@
 #include <QFile>
 #include <QTextCodec>
 
+#include <algorithm>
 #include <csignal>
+#include <iterator>
 #include <unistd.h>
 
 namespace {
+
+constexpr const char *DisplayVariables[] = {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM"};
 
 ProgramArgument argumentOf(const QByteArray &bytes)
 {
@@ -35,6 +39,12 @@ ProgramArguments HostSystem::programArguments(int argc, char **argv)
     for (int i = 1; i < argc; ++i)
         arguments.append(argumentOf(QByteArray(argv[i])));
     return arguments;
+}
+
+bool HostSystem::hasDisplay()
+{
+    return std::any_of(std::begin(DisplayVariables), std::end(DisplayVariables),
+                       [](const char *name) { return !qEnvironmentVariableIsEmpty(name); });
 }
 
 bool HostSystem::isTerminal(std::FILE *stream)

@@ -2,10 +2,10 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include <Brevano/commands/InfoText.h>
 
+#include <Brevano/commands/InfoFacts.h>
 #include <Brevano/commands/JsonLine.h>
 #include <Brevano/commands/MediaFacts.h>
 #include <Brevano/commands/ShownText.h>
-#include <NxCore/NxConvertUtility.h>
 #include <NxVBLModel/INxFootageService.h>
 #include <NxVBLModel/INxMediaInfo.h>
 #include <NxVBLModel/NxStreamInfo.h>
@@ -19,91 +19,6 @@ namespace {
 /// By NxFootageStatus.
 constexpr std::array<const char *, 4> FactWords = {"waiting", "done", "none", "failed"};
 constexpr std::array<const char *, 4> PictureWords = {"waiting", "made", "none", "failed"};
-
-QString rateText(const NxRational &rate)
-{
-    constexpr int decimals = 3;
-    QString text = QString::number(rate.toDouble(), 'f', decimals);
-    while (text.endsWith(QLatin1Char('0')))
-        text.chop(1);
-    if (text.endsWith(QLatin1Char('.')))
-        text.chop(1);
-    return text;
-}
-
-QString joined(QStringList parts)
-{
-    parts.removeAll(QString());
-    return parts.join(QStringLiteral(", "));
-}
-
-/// Tags have four characters; short ones are filled up with blanks.
-QString withTag(const QString &codec, const QString &tag)
-{
-    const QString shown = tag.trimmed();
-    if (codec.isEmpty())
-        return shown;
-    return shown.isEmpty() || shown == codec ? codec : codec + QStringLiteral(" (%1)").arg(shown);
-}
-
-QString sizeText(const QSize &size)
-{
-    return size.isEmpty() ? QString()
-                          : QStringLiteral("%1 x %2").arg(size.width()).arg(size.height());
-}
-
-QString framesText(const NxRational &rate, bool isVariable)
-{
-    const bool isKnown = rate.isValid() && rate.num > 0;
-    if (!isKnown)
-        return {};
-    return QStringLiteral("%1 frames a second%2")
-        .arg(rateText(rate), isVariable ? QStringLiteral(" (they vary)") : QString());
-}
-
-QString turnedText(int rotation)
-{
-    return rotation == 0 ? QString() : QStringLiteral("turned by %1 degrees").arg(rotation);
-}
-
-QString pictureText(const INxMediaInfo &info)
-{
-    if (const NxImageInfo *image = info.imageInfo())
-        return joined({sizeText(image->size), image->format, turnedText(image->rotation)});
-    const NxVideoStreamInfo *video = info.videoStream();
-    if (!video)
-        return {};
-    const QString depth =
-        video->bitDepth > 0 ? QStringLiteral("%1 bit").arg(video->bitDepth) : QString();
-    return joined({sizeText(video->frameSize),
-                   framesText(info.frameRate(), video->variableFrameRate),
-                   withTag(video->codecName, video->codecTag), video->pixelFormat, depth,
-                   turnedText(video->rotation)});
-}
-
-QString soundText(const INxMediaInfo &info)
-{
-    const NxAudioStreamInfo *audio = info.audioStream();
-    if (!audio)
-        return {};
-    const QString rate =
-        audio->sampleRate > 0 ? QStringLiteral("%1 Hz").arg(audio->sampleRate) : QString();
-    const QString channels =
-        audio->channels > 0 ? ShownText::count(audio->channels, "channel", "channels") : QString();
-    return joined({rate, channels, withTag(audio->format, audio->codecTag)});
-}
-
-QString lengthText(const INxMediaInfo &info)
-{
-    const bool hasLength = info.frameRate().isValid() && info.frameCount() > 0;
-    if (!hasLength)
-        return {};
-    const QString clock =
-        NxConvertUtility::frame2String(info.frameCount(), info.frameRate().toDouble());
-    return info.kind() == mikVideo ? QStringLiteral("%1 (%2)").arg(
-               clock, ShownText::count(info.frameCount(), "frame", "frames"))
-                                   : clock;
-}
 
 QString pictureFileText(NxFootageStatus status, const QString &path, const QString &reason)
 {
@@ -147,16 +62,8 @@ void addFile(Sheet *sheet, const INxAbstractMediaItem &media)
 
 void addContents(Sheet *sheet, const INxAbstractMediaItem &media)
 {
-    const INxMediaInfo *info = media.mediaInfo();
-    if (!info)
-        return;
-    sheet->add("Length", lengthText(*info));
-    sheet->add("Picture", pictureText(*info));
-    sheet->add("Sound", soundText(*info));
-    sheet->add("Camera", media.cameraName());
-    sheet->add("Timecode", info->timecode());
-    sheet->add("Reel", info->reelName());
-    sheet->add("Text", info->textEncoding());
+    for (const InfoFact &fact : InfoFacts::contents(media))
+        sheet->add(fact.label, fact.value);
 }
 
 void addPicture(JsonLine *line, const char *key, const QString &path, NxFootageStatus status,

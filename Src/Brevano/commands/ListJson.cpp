@@ -2,7 +2,6 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include <Brevano/commands/ListJson.h>
 
-#include <Brevano/commands/ColumnTexts.h>
 #include <Brevano/commands/JsonLine.h>
 #include <Brevano/commands/ListedRows.h>
 #include <Brevano/commands/MediaFacts.h>
@@ -39,6 +38,7 @@ QByteArray ListJson::lineOf(const ListedRows &rows, int number) const
     MediaFacts::addState(&line, *media);
     MediaFacts::addContents(&line, *media);
     if (m_columns == Columns::With)
-        line.addObject("columns", columnsOf(rows.headings(), ColumnTexts::of(*media, m_category)));
+        line.addObject("columns",
+                       columnsOf(rows.headings(), MediaFacts::columnTexts(*media, m_category)));
     return line.text();
 }

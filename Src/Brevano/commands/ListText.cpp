@@ -2,7 +2,6 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include <Brevano/commands/ListText.h>
 
-#include <Brevano/commands/ColumnTexts.h>
 #include <Brevano/commands/ListedRows.h>
 #include <Brevano/commands/MediaFacts.h>
 #include <Brevano/commands/RowText.h>
@@ -96,7 +95,7 @@ QStringList ListText::table(const ListedRows &rows) const
             continue;
         }
         const QStringList texts =
-            isOfFiles ? fileTexts(*media) : ColumnTexts::of(*media, m_category);
+            isOfFiles ? fileTexts(*media) : MediaFacts::columnTexts(*media, m_category);
         table.addRow(withoutGaps(texts) + QStringList{stateText(*media)});
     }
     return table.lines();

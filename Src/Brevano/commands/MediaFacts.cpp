@@ -7,6 +7,7 @@
 #include <NxCore/NxConvertUtility.h>
 #include <NxCore/NxFile.h>
 #include <NxMediaLibrary/NxMediaLibraryUtils.h>
+#include <NxMediaViews/NxMediaColumns.h>
 #include <NxVBLModel/INxAbstractMediaItem.h>
 #include <NxVBLModel/INxFolderMedia.h>
 #include <NxVBLModel/INxMediaInfo.h>
@@ -55,6 +56,20 @@ struct Facts
 /// Sound counts in hundredths of a second.
 constexpr qint64 millisecondsPerSoundUnit = 10;
 
+bool hasFrames(const INxMediaInfo &info)
+{
+    return info.kind() == mikVideo && info.frameRate().isValid() && info.frameRate().num > 0;
+}
+
+qint64 millisecondsOf(const INxMediaInfo &info)
+{
+    if (info.kind() == mikAudio)
+        return info.duration() * millisecondsPerSoundUnit;
+    if (hasFrames(info) || info.kind() == mikSubtitle)
+        return NxConvertUtility::frame2Msec(info.frameCount(), info.frameRate().toDouble());
+    return -1;
+}
+
 Facts factsOf(const INxMediaInfo *info)
 {
     Facts facts;
@@ -67,15 +82,10 @@ Facts factsOf(const INxMediaInfo *info)
     if (info->imageInfo())
         facts.image = *info->imageInfo();
     facts.timecode = info->timecode();
-    if (info->kind() == mikVideo && info->frameRate().isValid() && info->frameRate().num > 0) {
+    facts.milliseconds = millisecondsOf(*info);
+    if (hasFrames(*info)) {
         facts.rate = info->frameRate();
         facts.frames = info->frameCount();
-        facts.milliseconds = NxConvertUtility::frame2Msec(facts.frames, facts.rate.toDouble());
-    } else if (info->kind() == mikAudio) {
-        facts.milliseconds = info->duration() * millisecondsPerSoundUnit;
-    } else if (info->kind() == mikSubtitle) {
-        facts.milliseconds =
-            NxConvertUtility::frame2Msec(info->frameCount(), info->frameRate().toDouble());
     }
     return facts;
 }
@@ -96,6 +106,15 @@ QString MediaFacts::typeWord(const INxAbstractMediaItem &media)
                      [&media](const TypeWord &entry) { return entry.type == media.mediaType(); });
     return known == std::end(typeWords) ? QStringLiteral("other")
                                         : QString(QLatin1String(known->word));
+}
+
+QStringList MediaFacts::columnTexts(const INxAbstractMediaItem &media, NxMediaCategoryType category)
+{
+    QStringList texts = NxMediaColumns::texts(media, category);
+    const int typeColumn = NxMediaColumns::column(category, NXMEDIALIBRARY::sbType);
+    if (typeColumn >= 0)
+        texts.replace(typeColumn, typeWord(media));
+    return texts;
 }
 
 QString MediaFacts::folder(const INxAbstractMediaItem &media)
@@ -120,6 +139,18 @@ bool MediaFacts::isMissing(const INxAbstractMediaItem &media)
 QString MediaFacts::unreadableReason(const INxAbstractMediaItem &media)
 {
     return media.isUnavailable() && !isMissing(media) ? media.unavailableReason() : QString();
+}
+
+qint64 MediaFacts::milliseconds(const INxAbstractMediaItem &media)
+{
+    const INxMediaInfo *info = media.mediaInfo();
+    const qint64 length = info ? millisecondsOf(*info) : 0;
+    return length > 0 ? length : -1;
+}
+
+bool MediaFacts::isKnownMissing(const INxAbstractMediaItem &media)
+{
+    return !media.isResource() && !NxFile::knownToExist(media.sourcePath()).value_or(true);
 }
 
 void MediaFacts::addIdentity(JsonLine *line, const INxAbstractMediaItem &media)

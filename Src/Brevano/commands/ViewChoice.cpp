@@ -39,11 +39,24 @@ void setType(NxMediaItemViewFilter *filter, NxMediaTypeFilter type)
 void fillIn(ViewChoice *choice)
 {
     const NxMediaLibrarySetting *setting = NxMediaLibrarySetting::instance();
+    choice->mode = setting->GetViewType(choice->category);
     choice->sort = {setting->GetSortBy(choice->category),
                     setting->GetSortByOrder(choice->category)};
     choice->group.groupBy = setting->GetGroupBy(choice->category);
     choice->group.order = setting->GetGroupByOrder(choice->category);
     setType(&choice->filter, setting->GetFilterType(choice->category));
+}
+
+NxResult<void> readMode(const CommandLine &line, NxMediaItemViewMode *mode)
+{
+    const std::optional<QString> word = line.value(CommandOptions::view);
+    if (!word)
+        return {};
+    const NxResult<NxMediaItemViewMode> known = ViewWords::view(*word);
+    if (!known)
+        return known.error();
+    *mode = *known;
+    return {};
 }
 
 NxResult<void> readSort(const CommandLine &line, NxMediaItemViewSort *sort)
@@ -97,8 +110,9 @@ NxResult<ViewChoice> ViewChoice::of(const CommandLine &line)
         choice.category = *category;
     }
     fillIn(&choice);
-    for (const NxResult<void> &read : {readSort(line, &choice.sort), readGroup(line, &choice.group),
-                                       readFilter(line, &choice.filter)}) {
+    for (const NxResult<void> &read :
+         {readMode(line, &choice.mode), readSort(line, &choice.sort),
+          readGroup(line, &choice.group), readFilter(line, &choice.filter)}) {
         if (!read)
             return read.error();
     }

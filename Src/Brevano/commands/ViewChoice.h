@@ -7,11 +7,12 @@
 
 class CommandLine;
 
-/// What a listing shows and how: the words of the command line and, where they say nothing, what
-/// the user chose last for the category.
+/// What a listing or a picture of the panel shows, and how: the words of the command line and,
+/// where they say nothing, what the user chose last for the category.
 struct ViewChoice
 {
     NXVBLMODEL::NxMediaCategoryType category = NXVBLMODEL::mctMedia;
+    NXMEDIALIBRARY::NxMediaItemViewMode mode = NXMEDIALIBRARY::vmLargeThumbnail;
     NXMEDIALIBRARY::NxMediaItemViewSort sort;
     NXMEDIALIBRARY::NxMediaItemViewGroup group;
     NXMEDIALIBRARY::NxMediaItemViewFilter filter;

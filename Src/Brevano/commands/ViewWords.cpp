@@ -52,6 +52,13 @@ constexpr Word<NxMediaTypeFilter> TypeWords[] = {
     {mtfStandard, "standard"}, {mtfFree, "free"},         {mtfPaid, "paid"},
 };
 
+constexpr Word<NxMediaItemViewMode> ViewModeWords[] = {
+    {vmList, "list"},
+    {vmSmallThumbnail, "small"},
+    {vmMiddleThumbnail, "middle"},
+    {vmLargeThumbnail, "large"},
+};
+
 template<typename Value, size_t Count>
 QStringList textsOf(const Word<Value> (&words)[Count])
 {
@@ -90,6 +97,11 @@ NxResult<NxMediaTypeFilter> ViewWords::type(const QString &word)
     return valueOf(word, TypeWords, "type");
 }
 
+NxResult<NxMediaItemViewMode> ViewWords::view(const QString &word)
+{
+    return valueOf(word, ViewModeWords, "view");
+}
+
 NxResult<NXVBLMODEL::NxMediaCategoryType> ViewWords::category(const QString &word)
 {
     for (int code = 0; code < NXVBLMODEL::MediaCategoryCount; ++code) {
@@ -113,4 +125,9 @@ QStringList ViewWords::groupKeys()
 QStringList ViewWords::types()
 {
     return textsOf(TypeWords);
+}
+
+QStringList ViewWords::views()
+{
+    return textsOf(ViewModeWords);
 }

@@ -14,6 +14,7 @@ namespace ViewWords {
 [[nodiscard]] NxResult<NXMEDIALIBRARY::NxMediaItemViewSortBy> sortKey(const QString &word);
 [[nodiscard]] NxResult<NXMEDIALIBRARY::NxMediaItemViewGroupBy> groupKey(const QString &word);
 [[nodiscard]] NxResult<NXMEDIALIBRARY::NxMediaTypeFilter> type(const QString &word);
+[[nodiscard]] NxResult<NXMEDIALIBRARY::NxMediaItemViewMode> view(const QString &word);
 /// Categories have numbers for words: "0" to "10".
 [[nodiscard]] NxResult<NXVBLMODEL::NxMediaCategoryType> category(const QString &word);
 
@@ -21,5 +22,6 @@ namespace ViewWords {
 [[nodiscard]] QStringList sortKeys();
 [[nodiscard]] QStringList groupKeys();
 [[nodiscard]] QStringList types();
+[[nodiscard]] QStringList views();
 
 } // namespace ViewWords
