@@ -502,7 +502,7 @@ Freie Software unter der GNU Lesser General Public License, Version 2.1 oder sp�
         <translation>Fehlende Dateien werden gesucht: %1 gesehen</translation>
     </message>
     <message>
-        <source>"%1" could be any of these: %2</source>
+        <source>&quot;%1&quot; could be any of these: %2</source>
         <translation>„%1“ könnte jede von diesen sein: %2</translation>
     </message>
     <message>
@@ -591,15 +591,15 @@ Freie Software unter der GNU Lesser General Public License, Version 2.1 oder sp�
 <context>
     <name>NxFolderTreeView</name>
     <message>
-        <source>There is a folder "%1" in "%2" already.</source>
+        <source>There is a folder &quot;%1&quot; in &quot;%2&quot; already.</source>
         <translation>In „%2“ gibt es schon einen Ordner „%1“.</translation>
     </message>
     <message>
-        <source>The folder "%1" cannot be moved to "%2".</source>
+        <source>The folder &quot;%1&quot; cannot be moved to &quot;%2&quot;.</source>
         <translation>Der Ordner „%1“ kann nicht nach „%2“ verschoben werden.</translation>
     </message>
     <message>
-        <source>The media cannot be moved to "%1".</source>
+        <source>The media cannot be moved to &quot;%1&quot;.</source>
         <translation>Die Medien können nicht nach „%1“ verschoben werden.</translation>
     </message>
     <message>
@@ -615,19 +615,19 @@ Freie Software unter der GNU Lesser General Public License, Version 2.1 oder sp�
         <translation>Neuer Ordner %1</translation>
     </message>
     <message>
-        <source>No folder can be made in "%1".</source>
+        <source>No folder can be made in &quot;%1&quot;.</source>
         <translation>In „%1“ kann kein Ordner angelegt werden.</translation>
     </message>
     <message>
-        <source>A folder needs a name. "%1" keeps its own.</source>
+        <source>A folder needs a name. &quot;%1&quot; keeps its own.</source>
         <translation>Ein Ordner braucht einen Namen. „%1“ behält seinen.</translation>
     </message>
     <message>
-        <source>There is a folder "%2" already. "%1" keeps its name.</source>
+        <source>There is a folder &quot;%2&quot; already. &quot;%1&quot; keeps its name.</source>
         <translation>Es gibt schon einen Ordner „%2“. „%1“ behält seinen Namen.</translation>
     </message>
     <message>
-        <source>The folder "%1" cannot be called "%2".</source>
+        <source>The folder &quot;%1&quot; cannot be called &quot;%2&quot;.</source>
         <translation>Der Ordner „%1“ kann nicht „%2“ heißen.</translation>
     </message>
 </context>
@@ -650,11 +650,11 @@ Freie Software unter der GNU Lesser General Public License, Version 2.1 oder sp�
         <translation>Der Ordner, in den es sollte, wurde entfernt.</translation>
     </message>
     <message>
-        <source>It is already in "%1".</source>
+        <source>It is already in &quot;%1&quot;.</source>
         <translation>Es ist schon in „%1“.</translation>
     </message>
     <message>
-        <source>The folder "%1" cannot be made here.</source>
+        <source>The folder &quot;%1&quot; cannot be made here.</source>
         <translation>Der Ordner „%1“ kann hier nicht angelegt werden.</translation>
     </message>
 </context>
@@ -665,14 +665,14 @@ Freie Software unter der GNU Lesser General Public License, Version 2.1 oder sp�
         <translation>Es wurde zweimal genannt.</translation>
     </message>
     <message>
-        <source>It is already in "%1".</source>
+        <source>It is already in &quot;%1&quot;.</source>
         <translation>Es ist schon in „%1“.</translation>
     </message>
 </context>
 <context>
     <name>NxImportRules</name>
     <message>
-        <source>Files of the type "%1" cannot be imported.</source>
+        <source>Files of the type &quot;%1&quot; cannot be imported.</source>
         <translation>Dateien vom Typ „%1“ können nicht importiert werden.</translation>
     </message>
     <message>
@@ -769,7 +769,7 @@ Freie Software unter der GNU Lesser General Public License, Version 2.1 oder sp�
 <context>
     <name>NxMediaItemManagerPresenter</name>
     <message>
-        <source>Unable to locate file. Click 'RELOCATE' to try importing the file again, 'DELETE' to delete it, or 'IGNORE' to abort this operation.</source>
+        <source>Unable to locate file. Click &apos;RELOCATE&apos; to try importing the file again, &apos;DELETE&apos; to delete it, or &apos;IGNORE&apos; to abort this operation.</source>
         <translation>Die Datei wurde nicht gefunden. Mit „NEU ZUORDNEN“ versuchen Sie, sie erneut zu importieren, mit „LÖSCHEN“ löschen Sie sie, mit „IGNORIEREN“ brechen Sie diesen Vorgang ab.</translation>
     </message>
     <message>
@@ -789,11 +789,11 @@ Freie Software unter der GNU Lesser General Public License, Version 2.1 oder sp�
         <translation>Neu verknüpfen</translation>
     </message>
     <message>
-        <source>%1 cannot be read as media, so it cannot take the place of "%2".</source>
+        <source>%1 cannot be read as media, so it cannot take the place of &quot;%2&quot;.</source>
         <translation>%1 kann nicht als Medium gelesen werden und daher „%2“ nicht ersetzen.</translation>
     </message>
     <message>
-        <source>The selected file's duration is different from the clip you used in project and may cause issues, please reselect another file with the same duration.</source>
+        <source>The selected file&apos;s duration is different from the clip you used in project and may cause issues, please reselect another file with the same duration.</source>
         <translation>Die Dauer der ausgewählten Datei weicht von der des Clips im Projekt ab, was zu Problemen führen kann. Bitte wählen Sie eine andere Datei mit derselben Dauer.</translation>
     </message>
     <message>
@@ -843,11 +843,11 @@ Benötigter Speicherplatz: %1 MB, verbleibend: %2 MB.</translation>
         <translation>Mindestens einer der ausgewählten Clips wurde zur Timeline hinzugefügt. Wenn Sie ihn aus der Bibliothek löschen, wird er auch aus der Timeline gelöscht.</translation>
     </message>
     <message>
-        <source>Are you sure you want to delete the custom project template item "%1?"</source>
+        <source>Are you sure you want to delete the custom project template item &quot;%1?&quot;</source>
         <translation>Möchten Sie die eigene Projektvorlage „%1“ wirklich löschen?</translation>
     </message>
     <message>
-        <source>"%1" cannot be relinked to %2.</source>
+        <source>&quot;%1&quot; cannot be relinked to %2.</source>
         <translation>„%1“ kann nicht mit %2 verknüpft werden.</translation>
     </message>
 </context>
@@ -1048,7 +1048,7 @@ Benötigter Speicherplatz: %1 MB, verbleibend: %2 MB.</translation>
         <translation>Die Medien dieses Ordners sind nicht angekommen.</translation>
     </message>
     <message>
-        <source>Nothing here has a name that holds "%1".</source>
+        <source>Nothing here has a name that holds &quot;%1&quot;.</source>
         <translation>Kein Name enthält hier „%1“.</translation>
     </message>
     <message>
@@ -1056,7 +1056,7 @@ Benötigter Speicherplatz: %1 MB, verbleibend: %2 MB.</translation>
         <translation>Hier ist kein Video.</translation>
     </message>
     <message>
-        <source>Nothing here is a video whose name holds "%1".</source>
+        <source>Nothing here is a video whose name holds &quot;%1&quot;.</source>
         <translation>Hier ist kein Video, dessen Name „%1“ enthält.</translation>
     </message>
     <message>
@@ -1064,7 +1064,7 @@ Benötigter Speicherplatz: %1 MB, verbleibend: %2 MB.</translation>
         <translation>Hier ist kein Foto.</translation>
     </message>
     <message>
-        <source>Nothing here is a photo whose name holds "%1".</source>
+        <source>Nothing here is a photo whose name holds &quot;%1&quot;.</source>
         <translation>Hier ist kein Foto, dessen Name „%1“ enthält.</translation>
     </message>
     <message>
@@ -1072,7 +1072,7 @@ Benötigter Speicherplatz: %1 MB, verbleibend: %2 MB.</translation>
         <translation>Hier ist kein Audio.</translation>
     </message>
     <message>
-        <source>Nothing here is audio whose name holds "%1".</source>
+        <source>Nothing here is audio whose name holds &quot;%1&quot;.</source>
         <translation>Hier ist kein Audio, dessen Name „%1“ enthält.</translation>
     </message>
     <message>
@@ -1080,7 +1080,7 @@ Benötigter Speicherplatz: %1 MB, verbleibend: %2 MB.</translation>
         <translation>Hier ist kein Untertitel.</translation>
     </message>
     <message>
-        <source>Nothing here is a subtitle whose name holds "%1".</source>
+        <source>Nothing here is a subtitle whose name holds &quot;%1&quot;.</source>
         <translation>Hier ist kein Untertitel, dessen Name „%1“ enthält.</translation>
     </message>
     <message>
@@ -1088,7 +1088,7 @@ Benötigter Speicherplatz: %1 MB, verbleibend: %2 MB.</translation>
         <translation>Nichts hier entspricht dem Filter.</translation>
     </message>
     <message>
-        <source>Nothing here passes the filter with "%1" in its name.</source>
+        <source>Nothing here passes the filter with &quot;%1&quot; in its name.</source>
         <translation>Nichts hier mit „%1“ im Namen entspricht dem Filter.</translation>
     </message>
     <message>
@@ -1107,7 +1107,7 @@ Benötigter Speicherplatz: %1 MB, verbleibend: %2 MB.</translation>
 <context>
     <name>NxMediaPanelBinder</name>
     <message>
-        <source>"%1" cannot be renamed to "%2".</source>
+        <source>&quot;%1&quot; cannot be renamed to &quot;%2&quot;.</source>
         <translation>„%1“ kann nicht in „%2“ umbenannt werden.</translation>
     </message>
 </context>
@@ -1394,7 +1394,7 @@ Benötigter Speicherplatz: %1 MB, verbleibend: %2 MB.</translation>
         <translation>Nicht alle Dateien konnten verglichen werden. %1</translation>
     </message>
     <message>
-        <source>"%1" was left out. %2</source>
+        <source>&quot;%1&quot; was left out. %2</source>
         <translation>„%1“ wurde ausgelassen. %2</translation>
     </message>
 </context>
@@ -1983,7 +1983,7 @@ Benötigter Speicherplatz: %1 MB, verbleibend: %2 MB.</translation>
 <context>
     <name>ProjectDialogs</name>
     <message>
-        <source>There is no project "%1".</source>
+        <source>There is no project &quot;%1&quot;.</source>
         <translation>Es gibt kein Projekt „%1“.</translation>
     </message>
     <message>
@@ -2006,11 +2006,11 @@ Benötigter Speicherplatz: %1 MB, verbleibend: %2 MB.</translation>
         <translation>Es wurde kein Projekt genannt.</translation>
     </message>
     <message>
-        <source>There is no project "%1".</source>
+        <source>There is no project &quot;%1&quot;.</source>
         <translation>Es gibt kein Projekt „%1“.</translation>
     </message>
     <message>
-        <source>"%1" exists already.</source>
+        <source>&quot;%1&quot; exists already.</source>
         <translation>„%1“ ist schon vorhanden.</translation>
     </message>
     <message>
@@ -2192,7 +2192,7 @@ Benötigter Speicherplatz: %1 MB, verbleibend: %2 MB.</translation>
         <translation>Es kann keine Timeline angelegt werden.</translation>
     </message>
     <message>
-        <source>"%1" cannot be added to "%2".</source>
+        <source>&quot;%1&quot; cannot be added to &quot;%2&quot;.</source>
         <translation>„%1“ kann nicht zu „%2“ hinzugefügt werden.</translation>
     </message>
 </context>
@@ -2385,7 +2385,7 @@ Benötigter Speicherplatz: %1 MB, verbleibend: %2 MB.</translation>
         <translation>Alle Medien dieses Ordners werden verwendet.</translation>
     </message>
     <message numerus="yes">
-        <source>%n added to "%1"</source>
+        <source>%n added to &quot;%1&quot;</source>
         <translation>
             <numerusform>%n zu „%1“ hinzugefügt</numerusform>
             <numerusform>%n zu „%1“ hinzugefügt</numerusform>

@@ -492,7 +492,7 @@ Free software under the GNU Lesser General Public License, version 2.1 or later.
         <translation>正在查找丢失的文件：已检查 %1 个</translation>
     </message>
     <message>
-        <source>"%1" could be any of these: %2</source>
+        <source>&quot;%1&quot; could be any of these: %2</source>
         <translation>“%1”可能是以下任意一个：%2</translation>
     </message>
     <message>
@@ -580,15 +580,15 @@ Free software under the GNU Lesser General Public License, version 2.1 or later.
 <context>
     <name>NxFolderTreeView</name>
     <message>
-        <source>There is a folder "%1" in "%2" already.</source>
+        <source>There is a folder &quot;%1&quot; in &quot;%2&quot; already.</source>
         <translation>“%2”中已有文件夹“%1”。</translation>
     </message>
     <message>
-        <source>The folder "%1" cannot be moved to "%2".</source>
+        <source>The folder &quot;%1&quot; cannot be moved to &quot;%2&quot;.</source>
         <translation>无法将文件夹“%1”移到“%2”。</translation>
     </message>
     <message>
-        <source>The media cannot be moved to "%1".</source>
+        <source>The media cannot be moved to &quot;%1&quot;.</source>
         <translation>无法将素材移到“%1”。</translation>
     </message>
     <message>
@@ -604,19 +604,19 @@ Free software under the GNU Lesser General Public License, version 2.1 or later.
         <translation>新建文件夹 %1</translation>
     </message>
     <message>
-        <source>No folder can be made in "%1".</source>
+        <source>No folder can be made in &quot;%1&quot;.</source>
         <translation>无法在“%1”中新建文件夹。</translation>
     </message>
     <message>
-        <source>A folder needs a name. "%1" keeps its own.</source>
+        <source>A folder needs a name. &quot;%1&quot; keeps its own.</source>
         <translation>文件夹需要名称。“%1”保留原名。</translation>
     </message>
     <message>
-        <source>There is a folder "%2" already. "%1" keeps its name.</source>
+        <source>There is a folder &quot;%2&quot; already. &quot;%1&quot; keeps its name.</source>
         <translation>已有文件夹“%2”。“%1”保留原名。</translation>
     </message>
     <message>
-        <source>The folder "%1" cannot be called "%2".</source>
+        <source>The folder &quot;%1&quot; cannot be called &quot;%2&quot;.</source>
         <translation>文件夹“%1”不能命名为“%2”。</translation>
     </message>
 </context>
@@ -639,11 +639,11 @@ Free software under the GNU Lesser General Public License, version 2.1 or later.
         <translation>目标文件夹已被移除。</translation>
     </message>
     <message>
-        <source>It is already in "%1".</source>
+        <source>It is already in &quot;%1&quot;.</source>
         <translation>它已在“%1”中。</translation>
     </message>
     <message>
-        <source>The folder "%1" cannot be made here.</source>
+        <source>The folder &quot;%1&quot; cannot be made here.</source>
         <translation>无法在此处新建文件夹“%1”。</translation>
     </message>
 </context>
@@ -654,14 +654,14 @@ Free software under the GNU Lesser General Public License, version 2.1 or later.
         <translation>它被指定了两次。</translation>
     </message>
     <message>
-        <source>It is already in "%1".</source>
+        <source>It is already in &quot;%1&quot;.</source>
         <translation>它已在“%1”中。</translation>
     </message>
 </context>
 <context>
     <name>NxImportRules</name>
     <message>
-        <source>Files of the type "%1" cannot be imported.</source>
+        <source>Files of the type &quot;%1&quot; cannot be imported.</source>
         <translation>无法导入“%1”类型的文件。</translation>
     </message>
     <message>
@@ -758,7 +758,7 @@ Free software under the GNU Lesser General Public License, version 2.1 or later.
 <context>
     <name>NxMediaItemManagerPresenter</name>
     <message>
-        <source>Unable to locate file. Click 'RELOCATE' to try importing the file again, 'DELETE' to delete it, or 'IGNORE' to abort this operation.</source>
+        <source>Unable to locate file. Click &apos;RELOCATE&apos; to try importing the file again, &apos;DELETE&apos; to delete it, or &apos;IGNORE&apos; to abort this operation.</source>
         <translation>找不到文件。单击“重新定位”可再次尝试导入该文件，单击“删除”可将其删除，单击“忽略”可中止此操作。</translation>
     </message>
     <message>
@@ -778,11 +778,11 @@ Free software under the GNU Lesser General Public License, version 2.1 or later.
         <translation>重新链接</translation>
     </message>
     <message>
-        <source>%1 cannot be read as media, so it cannot take the place of "%2".</source>
+        <source>%1 cannot be read as media, so it cannot take the place of &quot;%2&quot;.</source>
         <translation>%1 无法作为素材读取，因此不能替换“%2”。</translation>
     </message>
     <message>
-        <source>The selected file's duration is different from the clip you used in project and may cause issues, please reselect another file with the same duration.</source>
+        <source>The selected file&apos;s duration is different from the clip you used in project and may cause issues, please reselect another file with the same duration.</source>
         <translation>所选文件的时长与项目中使用的片段不同，可能会引起问题，请重新选择时长相同的文件。</translation>
     </message>
     <message>
@@ -832,11 +832,11 @@ Dise Space needed :%1 MB, remaining:%2 MB.</source>
         <translation>所选片段中有一个或多个已添加到时间线。从媒体库中删除它们时，也会将其从时间线中删除。</translation>
     </message>
     <message>
-        <source>Are you sure you want to delete the custom project template item "%1?"</source>
+        <source>Are you sure you want to delete the custom project template item &quot;%1?&quot;</source>
         <translation>确定要删除自定义项目模板“%1”吗？</translation>
     </message>
     <message>
-        <source>"%1" cannot be relinked to %2.</source>
+        <source>&quot;%1&quot; cannot be relinked to %2.</source>
         <translation>无法将“%1”重新链接到 %2。</translation>
     </message>
 </context>
@@ -1037,7 +1037,7 @@ Dise Space needed :%1 MB, remaining:%2 MB.</source>
         <translation>未能获取此文件夹的素材。</translation>
     </message>
     <message>
-        <source>Nothing here has a name that holds "%1".</source>
+        <source>Nothing here has a name that holds &quot;%1&quot;.</source>
         <translation>此处没有名称包含“%1”的内容。</translation>
     </message>
     <message>
@@ -1045,7 +1045,7 @@ Dise Space needed :%1 MB, remaining:%2 MB.</source>
         <translation>此处没有视频。</translation>
     </message>
     <message>
-        <source>Nothing here is a video whose name holds "%1".</source>
+        <source>Nothing here is a video whose name holds &quot;%1&quot;.</source>
         <translation>此处没有名称包含“%1”的视频。</translation>
     </message>
     <message>
@@ -1053,7 +1053,7 @@ Dise Space needed :%1 MB, remaining:%2 MB.</source>
         <translation>此处没有照片。</translation>
     </message>
     <message>
-        <source>Nothing here is a photo whose name holds "%1".</source>
+        <source>Nothing here is a photo whose name holds &quot;%1&quot;.</source>
         <translation>此处没有名称包含“%1”的照片。</translation>
     </message>
     <message>
@@ -1061,7 +1061,7 @@ Dise Space needed :%1 MB, remaining:%2 MB.</source>
         <translation>此处没有音频。</translation>
     </message>
     <message>
-        <source>Nothing here is audio whose name holds "%1".</source>
+        <source>Nothing here is audio whose name holds &quot;%1&quot;.</source>
         <translation>此处没有名称包含“%1”的音频。</translation>
     </message>
     <message>
@@ -1069,7 +1069,7 @@ Dise Space needed :%1 MB, remaining:%2 MB.</source>
         <translation>此处没有字幕。</translation>
     </message>
     <message>
-        <source>Nothing here is a subtitle whose name holds "%1".</source>
+        <source>Nothing here is a subtitle whose name holds &quot;%1&quot;.</source>
         <translation>此处没有名称包含“%1”的字幕。</translation>
     </message>
     <message>
@@ -1077,7 +1077,7 @@ Dise Space needed :%1 MB, remaining:%2 MB.</source>
         <translation>此处没有符合筛选条件的内容。</translation>
     </message>
     <message>
-        <source>Nothing here passes the filter with "%1" in its name.</source>
+        <source>Nothing here passes the filter with &quot;%1&quot; in its name.</source>
         <translation>此处没有名称包含“%1”且符合筛选条件的内容。</translation>
     </message>
     <message>
@@ -1096,7 +1096,7 @@ Dise Space needed :%1 MB, remaining:%2 MB.</source>
 <context>
     <name>NxMediaPanelBinder</name>
     <message>
-        <source>"%1" cannot be renamed to "%2".</source>
+        <source>&quot;%1&quot; cannot be renamed to &quot;%2&quot;.</source>
         <translation>无法将“%1”重命名为“%2”。</translation>
     </message>
 </context>
@@ -1382,7 +1382,7 @@ Dise Space needed :%1 MB, remaining:%2 MB.</source>
         <translation>部分文件无法比较。%1</translation>
     </message>
     <message>
-        <source>"%1" was left out. %2</source>
+        <source>&quot;%1&quot; was left out. %2</source>
         <translation>已跳过“%1”。%2</translation>
     </message>
 </context>
@@ -1971,7 +1971,7 @@ Dise Space needed :%1 MB, remaining:%2 MB.</source>
 <context>
     <name>ProjectDialogs</name>
     <message>
-        <source>There is no project "%1".</source>
+        <source>There is no project &quot;%1&quot;.</source>
         <translation>项目“%1”不存在。</translation>
     </message>
     <message>
@@ -1994,11 +1994,11 @@ Dise Space needed :%1 MB, remaining:%2 MB.</source>
         <translation>未指定项目。</translation>
     </message>
     <message>
-        <source>There is no project "%1".</source>
+        <source>There is no project &quot;%1&quot;.</source>
         <translation>项目“%1”不存在。</translation>
     </message>
     <message>
-        <source>"%1" exists already.</source>
+        <source>&quot;%1&quot; exists already.</source>
         <translation>“%1”已存在。</translation>
     </message>
     <message>
@@ -2179,7 +2179,7 @@ Dise Space needed :%1 MB, remaining:%2 MB.</source>
         <translation>无法新建时间线。</translation>
     </message>
     <message>
-        <source>"%1" cannot be added to "%2".</source>
+        <source>&quot;%1&quot; cannot be added to &quot;%2&quot;.</source>
         <translation>无法将“%1”添加到“%2”。</translation>
     </message>
 </context>
@@ -2372,7 +2372,7 @@ Dise Space needed :%1 MB, remaining:%2 MB.</source>
         <translation>此文件夹的所有素材均已使用。</translation>
     </message>
     <message numerus="yes">
-        <source>%n added to "%1"</source>
+        <source>%n added to &quot;%1&quot;</source>
         <translation>
             <numerusform>已将 %n 个添加到“%1”</numerusform>
         </translation>

@@ -215,6 +215,11 @@ void NxMediaItemView::mouseMoveEvent(QMouseEvent *event)
     QAbstractItemView::mouseMoveEvent(event);
     if (state() != DragSelectingState)
         return;
+    const QModelIndex below = indexAt(event->pos());
+    if (!below.isValid() && selectionModel()) { // The base class selects over rows only.
+        d->bandCommand = selectionCommand(below, event);
+        d->selectBand();
+    }
     viewport()->update();
     if (!d->bandTimer.isActive())
         d->scrollBand();

@@ -199,6 +199,7 @@ void NxMediaPanelBinderPrivate::applyFilter()
 }
 
 // A search changes folder and filter with the same key: all media are gone through once for both.
+// Another filter of the same folder makes its rows anew already; a search for likes does not.
 void NxMediaPanelBinderPrivate::loadFolder()
 {
     INxFolderMedia *folder = items->folder();
@@ -208,7 +209,8 @@ void NxMediaPanelBinderPrivate::loadFolder()
         model->load(nullptr);
     model->setSortEnable(!NxMediaItemModel::keepsServiceOrder(folder));
     applyFilter();
-    if (isOther || !isFiltered)
+    const bool hasRows = isFiltered && !isOther && items->getFilter().searchMode != esmSimilar;
+    if (!hasRows)
         model->load(folder);
     Q_EMIT q->sigShownChanged();
 }

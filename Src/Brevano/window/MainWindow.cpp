@@ -24,6 +24,7 @@
 #include <NxMediaViews/NxMediaItemView.h>
 #include <NxMediaViews/NxMediaPanelBinder.h>
 #include <NxVBLModel/INxFolderMedia.h>
+#include <NxVBLModel/NxMediaItemMimeData.h>
 #include <NxWidgets/NMessageDialog.h>
 #include <NxWidgets/NxSkinStyle.h>
 
@@ -212,6 +213,7 @@ void MainWindow::connectParts()
     connect(m_deeds.get(), &WindowDeeds::sigOpenWanted, this, &MainWindow::openProject,
             Qt::QueuedConnection);
     connect(m_desk, &ImportDesk::sigFinished, this, &MainWindow::finishImport);
+    connect(m_desk, &ImportDesk::sigReportChanged, this, &MainWindow::showTrouble);
     connect(m_status, &ImportStatus::sigShowReport, m_reportDock, &QWidget::show);
     connect(m_report, &ImportReportView::sigShowMedia, m_deeds.get(), &WindowDeeds::showFile);
     connect(m_report, &ImportReportView::sigRevealFile, m_files, &FileManager::reveal);
@@ -283,7 +285,8 @@ void MainWindow::closeEvent(QCloseEvent *event)
 
 void MainWindow::dragEnterEvent(QDragEnterEvent *event)
 {
-    event->setAccepted(!ImportDesk::pathsOf(event->mimeData()).isEmpty());
+    const bool isOurs = qobject_cast<const NxMediaItemMimeData *>(event->mimeData());
+    event->setAccepted(!isOurs && !ImportDesk::pathsOf(event->mimeData()).isEmpty());
 }
 
 void MainWindow::dropEvent(QDropEvent *event)

@@ -98,6 +98,7 @@ private:
     void showShortcuts();
     void showAbout();
     void finishImport();
+    void showTrouble();
     void retranslate();
 
     WindowMemory *const m_memory; // Not owned.
@@ -124,5 +125,6 @@ private:
     QPointer<ShortcutSheet> m_shortcuts;
     const std::unique_ptr<WindowDeeds> m_deeds;
     NXVBLMODEL::NxMediaCategoryType m_shownCategory = NXVBLMODEL::mctNone;
+    bool m_isTroubleShown = false; // Of the last import.
     QTimer m_columnsSoon;
 };

@@ -251,10 +251,19 @@ void MainWindow::importPaths(const QStringList &paths)
     m_deeds->import(nullptr, paths);
 }
 
-// What needs the user's eye opens beside the panel; a plain success is told by the status bar.
 void MainWindow::finishImport()
 {
+    m_isTroubleShown = false;
+    showTrouble();
+}
+
+// What needs the user's eye opens beside the panel, once for each import; a plain success is told
+// by the status bar.
+void MainWindow::showTrouble()
+{
     const NxImportReport report = m_desk->report();
-    if (report.refused > 0 || report.unreadable > 0)
-        m_reportDock->show();
+    if (m_isTroubleShown || (report.refused == 0 && report.unreadable == 0))
+        return;
+    m_isTroubleShown = true;
+    m_reportDock->show();
 }

@@ -142,6 +142,8 @@ void PanelView::reloadCombo()
     delete m_combo;
     m_combo = new NxMediaFolderComboBox(m_binder->folders(), this);
     m_combo->setAccessibleName(tr("Folder"));
+    if (const NxFolderMediaManagerPresenter *folders = m_binder->folders())
+        m_combo->showFolder(folders->currentFolder());
     m_mediaSide->insertWidget(0, m_combo);
     if (auto *field = m_combo->findChild<QComboBox *>(); field && hasKeys)
         field->setFocus(Qt::OtherFocusReason); // The user goes through the folders with it.

@@ -70,7 +70,9 @@ void StartPage::refresh()
     for (const QString &path : paths) {
         auto *item = new QListWidgetItem(QFileInfo(path).completeBaseName(), m_recent);
         item->setData(Qt::UserRole, path);
-        item->setToolTip(QDir::toNativeSeparators(path));
+        // Names are no rich text, whatever characters they hold.
+        item->setToolTip(
+            QStringLiteral("<p>%1</p>").arg(QDir::toNativeSeparators(path).toHtmlEscaped()));
     }
     m_recentTitle->setVisible(!paths.isEmpty());
     m_recent->setVisible(!paths.isEmpty());

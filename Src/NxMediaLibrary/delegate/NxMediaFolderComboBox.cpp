@@ -34,3 +34,10 @@ void NxMediaFolderComboBox::setDefaultFolder()
 {
     d_func()->selectFolder(0);
 }
+
+void NxMediaFolderComboBox::showFolder(const INxFolderMedia *folder)
+{
+    const int entry = d_func()->entryOf(folder);
+    if (entry >= 0)
+        d_func()->comboBox->setCurrentIndex(entry);
+}

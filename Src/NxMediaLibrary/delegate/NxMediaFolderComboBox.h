@@ -32,6 +32,9 @@ public:
     void clear();
     /// Makes the first folder of the list the current one; the list goes on showing what it shows.
     void setDefaultFolder();
+    /// The list shows this folder, which becomes no one's current one; what is not listed changes
+    /// nothing.
+    void showFolder(const INxFolderMedia *folder);
 
 private:
     [[nodiscard]] NxMediaFolderComboBoxPrivate *d_func() const { return d_ptr.get(); }

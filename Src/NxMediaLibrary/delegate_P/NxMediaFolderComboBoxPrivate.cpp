@@ -63,6 +63,15 @@ void NxMediaFolderComboBoxPrivate::append(INxFolderMedia *folder, int depth) con
     comboBox->setItemData(entry, QVariant::fromValue(QPointer<INxFolderMedia>(folder)), LifeRole);
 }
 
+int NxMediaFolderComboBoxPrivate::entryOf(const INxFolderMedia *folder) const
+{
+    for (int entry = 0; folder && entry < comboBox->count(); ++entry) {
+        if (comboBox->itemData(entry, LifeRole).value<QPointer<INxFolderMedia>>() == folder)
+            return entry;
+    }
+    return -1;
+}
+
 void NxMediaFolderComboBoxPrivate::selectFolder(int entry) const
 {
     auto *folder =

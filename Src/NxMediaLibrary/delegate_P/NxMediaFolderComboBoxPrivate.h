@@ -22,6 +22,8 @@ public:
     /// `depth` is that of the folder's children.
     void appendBelow(const INxFolderMedia *folder, int depth) const;
     /// What the user's choice of an entry does.
+    /// -1 for a folder that is not listed.
+    [[nodiscard]] int entryOf(const INxFolderMedia *folder) const;
     void selectFolder(int entry) const;
 
     NxMediaFolderComboBox *const q_ptr; // Not owned.

@@ -336,7 +336,7 @@ void WindowYard::type(const QString &text) const
     QTest::keyClicks(QApplication::focusWidget(), text);
 }
 
-bool WindowYard::clickEntry(QMenu *menu, const QAction *entry) const
+bool WindowYard::clickEntry(QMenu *menu, QAction *entry) const
 {
     const QList<QAction *> all = menu->actions();
     for (QAction *one : all) {
@@ -344,7 +344,7 @@ bool WindowYard::clickEntry(QMenu *menu, const QAction *entry) const
             QTest::mouseClick(menu, Qt::LeftButton, {}, menu->actionGeometry(one).center());
             return true;
         }
-        if (!one->menu() || !one->menu()->actions().contains(const_cast<QAction *>(entry)))
+        if (!one->menu() || !one->menu()->actions().contains(entry))
             continue;
         QTest::mouseClick(menu, Qt::LeftButton, {}, menu->actionGeometry(one).center());
         return QTest::qWaitFor([one] { return one->menu()->isVisible(); })
@@ -380,7 +380,7 @@ void WindowYard::choose(const char *tool, const QString &entry) const
         auto *menu = qobject_cast<QMenu *>(QApplication::activePopupWidget());
         QVERIFY(menu);
         const QList<QAction *> all = menu->actions();
-        for (const QAction *one : all)
+        for (QAction *one : all)
             isChosen = isChosen || (one->text() == entry && clickEntry(menu, one));
         menu->close();
     });

@@ -121,7 +121,7 @@ private:
     /// Settings that the yard keeps.
     class Store;
 
-    [[nodiscard]] bool clickEntry(QMenu *menu, const QAction *entry) const;
+    [[nodiscard]] bool clickEntry(QMenu *menu, QAction *entry) const;
 
     QHash<QString, QVariant> m_config;
     QHash<QString, QVariant> m_appSettings;

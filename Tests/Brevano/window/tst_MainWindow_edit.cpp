@@ -212,8 +212,8 @@ void tst_MainWindow_edit::mediaOfTheTimelineAreMarked()
     const Yard yard;
     yard.click(QStringLiteral("a.png"));
     yard.click(QStringLiteral("c.png"), Qt::ControlModifier);
-    const QImage before = yard.view()->viewport()->grab(yard.rect(QStringLiteral("a.png")))
-                              .toImage();
+    const QImage before =
+        yard.view()->viewport()->grab(yard.rect(QStringLiteral("a.png"))).toImage();
     yard.press(Qt::CTRL | Qt::Key_T);
     QCOMPARE(yard.told(), QStringLiteral("2 added to \"Timeline 1\""));
     QCOMPARE(yard.media(QStringLiteral("a.png"))->usedCount(), 1);
