@@ -90,8 +90,9 @@ void tst_NxPreviewTimeline::anotherClipTakesItsPlace()
     QCOMPARE(old->timeline(), nullptr);
     delete old;
     QVERIFY(timeline->insertClip(f.clip("short.mp4").release(), 0, 0));
-    QCOMPARE(timeline->frameCount(), 0); // That of the clip before is not this one's.
-    QCOMPARE(numberIn(timeline.get(), 0), Missing);
+    // What the clip before had is not this one's, which may come at any moment.
+    QCOMPARE(numberIn(timeline.get(), 9), Missing);
+    QVERIFY(timeline->frameCount() == 0 || timeline->frameCount() == ScriptedFilms::ShortFrames);
     QTRY_COMPARE(timeline->frameCount(), ScriptedFilms::ShortFrames);
     QTRY_COMPARE(numberIn(timeline.get(), 2), 2);
     QCOMPARE(f.films.starts().size(), 1);
