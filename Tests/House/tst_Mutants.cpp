@@ -73,9 +73,11 @@ void tst_Mutants::eachChangesOneLineOfTheSources()
     const QString patch = textOf(QStringLiteral("Tests/mutants/") + name);
     QVERIFY2(!wordOf(patch, QStringLiteral("Breaks")).isEmpty(), "it does not say what it breaks");
     const QString test = wordOf(patch, QStringLiteral("Red"));
-    QVERIFY2(textOf(QStringLiteral("Tests/NxMediaLibrary/CMakeLists.txt")).contains(test)
-                 && test.startsWith(QLatin1String("tst_")),
-             qPrintable(test + QStringLiteral(" is no test of the library")));
+    const QString tests = textOf(QStringLiteral("Tests/NxMediaLibrary/CMakeLists.txt"))
+                          + textOf(QStringLiteral("Tests/NxMediaViews/CMakeLists.txt"))
+                          + textOf(QStringLiteral("Tests/Brevano/window/CMakeLists.txt"));
+    QVERIFY2(tests.contains(test) && test.startsWith(QLatin1String("tst_")),
+             qPrintable(test + QStringLiteral(" is no test of library, views or window")));
     const QRegularExpression target(QStringLiteral("^\\+\\+\\+ b/Src/"),
                                     QRegularExpression::MultilineOption);
     QVERIFY2(target.match(patch).hasMatch(), "it changes something else than sources");

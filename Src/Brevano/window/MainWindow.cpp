@@ -116,6 +116,7 @@ void MainWindow::layOut()
     m_pages->addWidget(project);
     setCentralWidget(m_pages);
     setAcceptDrops(true);
+    setAnimated(false); // What is asked for is there at once.
     resize(FirstSize);
 }
 
