@@ -46,7 +46,9 @@ namespace {
 constexpr char Name[] = "shot";
 constexpr std::chrono::seconds LongestWait{60};
 constexpr std::chrono::milliseconds Pause{40};
+constexpr std::chrono::milliseconds FadeOut{200};
 constexpr int MostLooks = 50;
+constexpr int LooksAtRest = 5; // Longer than anything in the window takes to fade in.
 
 /// The category begins as the words say.
 void choose(const ViewChoice &view)
@@ -69,17 +71,22 @@ NxEmbeddedEngine::Options engineOptions()
     return options;
 }
 
+void pause(std::chrono::milliseconds time)
+{
+    QEventLoop loop;
+    QTimer::singleShot(time, &loop, &QEventLoop::quit);
+    loop.exec();
+}
+
 /// What stands there once the window has come to rest.
 QImage pictureOf(QWidget *window)
 {
     QImage before;
-    for (int looks = 0; looks < MostLooks; ++looks) {
-        QEventLoop loop;
-        QTimer::singleShot(Pause, &loop, &QEventLoop::quit);
-        loop.exec();
+    int equal = 0;
+    for (int looks = 0; looks < MostLooks && equal < LooksAtRest; ++looks) {
+        pause(Pause);
         const QImage now = window->grab().toImage();
-        if (now == before)
-            break;
+        equal = now == before ? equal + 1 : 0;
         before = now;
     }
     return before;
@@ -129,7 +136,10 @@ int ShotCommand::run(const CommandLine &line, Console *console)
     if (!fault.isEmpty())
         return wrongUsage(console, fault);
     const BorrowedSettings settings;
-    return draw(line, *words);
+    const int code = draw(line, *words);
+    if (line.has(CommandOptions::search))
+        pause(FadeOut); // The button that clears the search frees itself when it has faded out.
+    return code;
 }
 
 int ShotCommand::draw(const CommandLine &line, const ShotWords &words)
