@@ -518,9 +518,8 @@ void NxMediaItemView::hideEvent(QHideEvent *event)
     QAbstractItemView::hideEvent(event);
 }
 
-void NxMediaItemView::scrollContentsBy(int dx, int dy)
+void NxMediaItemView::scrollContentsBy(int, int dy)
 {
-    Q_UNUSED(dx)
     d->header->setOffset(horizontalScrollBar()->value());
     if (d->isSettling)
         return;

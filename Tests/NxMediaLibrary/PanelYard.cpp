@@ -24,6 +24,7 @@
 #include <QTest>
 
 #include "PanelList.h"
+#include "PanelNames.h"
 
 namespace {
 
@@ -34,19 +35,6 @@ NxEmbeddedEngine::Options options(const NxTempDir &dir, PanelYard::Reading readi
     options.readsFootage = reading == PanelYard::Reading::Everything;
     options.pictureFolder = dir.filePath(QStringLiteral("pictures"));
     return options;
-}
-
-QStringList namesOf(const QList<INxAbstractMedia *> &medias)
-{
-    QStringList names;
-    for (const INxAbstractMedia *media : medias)
-        names.append(media->name());
-    return names;
-}
-
-QString nameOf(const INxFolderMedia *folder)
-{
-    return folder ? folder->name() : QStringLiteral("none");
 }
 
 } // namespace
@@ -185,13 +173,13 @@ QStringList PanelYard::rows() const
         if (dynamic_cast<INxAbstractMediaItem *>(media))
             shown.append(media);
     }
-    return namesOf(shown);
+    return PanelNames::of(shown);
 }
 
 QStringList PanelYard::selection() const
 {
-    const QStringList shown = namesOf(panel->list()->selectedMedia());
-    const QStringList known = namesOf(items()->selectedItems());
+    const QStringList shown = PanelNames::of(panel->list()->selectedMedia());
+    const QStringList known = PanelNames::of(items()->selectedItems());
     if (known == shown)
         return known;
     return QStringList(QStringLiteral("known:")) + known + QStringList(QStringLiteral("shown:"))
@@ -201,9 +189,10 @@ QStringList PanelYard::selection() const
 QString PanelYard::shownFolder() const
 {
     const QModelIndex index = panel->tree()->currentIndex();
-    const QStringList names{nameOf(static_cast<INxFolderMedia *>(index.internalPointer())),
-                            nameOf(folders()->currentFolder()), nameOf(items()->folder()),
-                            nameOf(panel->model()->folder())};
+    const QStringList names{PanelNames::of(static_cast<INxFolderMedia *>(index.internalPointer())),
+                            PanelNames::of(folders()->currentFolder()),
+                            PanelNames::of(items()->folder()),
+                            PanelNames::of(panel->model()->folder())};
     const bool agree = names.count(names.first()) == names.size();
     return agree ? names.first() : names.join(QLatin1Char('/'));
 }

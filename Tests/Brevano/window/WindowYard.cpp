@@ -27,6 +27,7 @@
 
 #include <Footage/NxFootageRecipes.h>
 #include <Footage/NxFootageSet.h>
+#include <NxMediaLibrary/PanelNames.h>
 
 #include <QAction>
 #include <QApplication>
@@ -71,19 +72,6 @@ NxEmbeddedEngine::Options options(const NxTempDir &dir, WindowYard::Reading read
     options.readsFootage = reading == WindowYard::Reading::Everything;
     options.pictureFolder = dir.filePath(QStringLiteral("pictures"));
     return options;
-}
-
-QStringList namesOf(const QList<INxAbstractMedia *> &medias)
-{
-    QStringList names;
-    for (const INxAbstractMedia *media : medias)
-        names.append(media->name());
-    return names;
-}
-
-QString nameOf(const INxFolderMedia *folder)
-{
-    return folder ? folder->name() : QStringLiteral("none");
 }
 
 /// Empty for what is neither a media nor a group.
@@ -242,8 +230,8 @@ QStringList WindowYard::rows() const
 
 QStringList WindowYard::selection() const
 {
-    const QStringList shown = namesOf(view()->selectedMedia());
-    const QStringList known = namesOf(items()->selectedItems());
+    const QStringList shown = PanelNames::of(view()->selectedMedia());
+    const QStringList known = PanelNames::of(items()->selectedItems());
     if (known == shown)
         return known;
     return QStringList(QStringLiteral("known:")) + known + QStringList(QStringLiteral("shown:"))
@@ -253,9 +241,9 @@ QStringList WindowYard::selection() const
 QString WindowYard::shownFolder() const
 {
     const auto *inTree = static_cast<INxFolderMedia *>(tree()->currentIndex().internalPointer());
-    const QStringList names{nameOf(inTree), nameOf(panel()->binder()->folders()->currentFolder()),
-                            nameOf(items()->folder()),
-                            nameOf(panel()->binder()->model()->folder())};
+    const QStringList names{
+        PanelNames::of(inTree), PanelNames::of(panel()->binder()->folders()->currentFolder()),
+        PanelNames::of(items()->folder()), PanelNames::of(panel()->binder()->model()->folder())};
     const bool agree = names.count(names.first()) == names.size();
     return agree ? names.first() : names.join(QLatin1Char('/'));
 }
