@@ -296,7 +296,6 @@ void tst_NxPreviewService::whateverIsAskedTheRightFrameIsShown()
     Previews f;
     std::vector<quint64> films{f.add("a.mp4"), f.add("b.mp4"), f.add("short.mp4")};
     quint32 random = 12345;
-    int shown = 0;
     for (int i = 0; i < 3'000; ++i) {
         random = random * 1664525 + 1013904223;
         const quint64 film = films.at((random >> 8) % 64 == 0 ? (random >> 16) % 3 : 0);
@@ -304,11 +303,10 @@ void tst_NxPreviewService::whateverIsAskedTheRightFrameIsShown()
         const QSize size = (random >> 20) % 128 == 0 ? QSize(64, 36) : Small;
         const int number = f.numberIn(film, frame, size);
         QVERIFY2(number == frame || number == Missing, qPrintable(QString::number(number)));
-        shown += number == frame ? 1 : 0;
         QCoreApplication::processEvents();
+        if (i % 100 == 50) // Whatever was asked before, who stays with a frame sees it.
+            QTRY_COMPARE(f.numberIn(films.front(), 50), 50);
     }
-    QTRY_COMPARE(f.numberIn(films.front(), 50), 50);
-    QVERIFY(shown > 0);
     QCOMPARE(f.films.starts().size(), 1); // Nobody spoke out of turn.
 }
 
