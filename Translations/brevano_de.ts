@@ -183,6 +183,10 @@
         <source>Reading %1 of %2</source>
         <translation>%1 von %2 werden gelesen</translation>
     </message>
+    <message>
+        <source>Files cannot be read: %1</source>
+        <translation>Dateien können nicht gelesen werden: %1</translation>
+    </message>
 </context>
 <context>
     <name>ImportWords</name>

@@ -183,6 +183,10 @@
         <source>Reading %1 of %2</source>
         <translation>正在读取 %1 / %2</translation>
     </message>
+    <message>
+        <source>Files cannot be read: %1</source>
+        <translation>无法读取文件：%1</translation>
+    </message>
 </context>
 <context>
     <name>ImportWords</name>

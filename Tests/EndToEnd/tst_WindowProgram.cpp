@@ -98,9 +98,9 @@ void tst_WindowProgram::withoutADisplayFootageIsImportedDrawnAndListed()
     QVERIFY(result.said("brevano: Film.brevano: a new project was made"));
     const QList<QByteArray> lines = result.lines();
     QCOMPARE(lines.value(0), QByteArray("2 media added"));
-    QCOMPARE(lines.value(1), "The panel as a picture: " + picture().toUtf8());
-    QVERIFY(lines.value(2).startsWith("Folder"));
-    QVERIFY(lines.constLast().startsWith("2 media in 1 folder"));
+    QVERIFY(lines.value(1).startsWith("Folder"));
+    QVERIFY(lines.value(lines.size() - 2).startsWith("2 media in 1 folder"));
+    QCOMPARE(lines.constLast(), "The panel as a picture: " + picture().toUtf8());
     QCOMPARE(QImage(picture()).size(), pictureSize);
     const QStringList expected{QStringLiteral(": a.png"), QStringLiteral(": b.png")};
     QCOMPARE(m_yard->shown(), expected);
@@ -125,8 +125,8 @@ void tst_WindowProgram::aProjectAloneIsDrawnAndListed()
     const QByteArray before = project.readAll();
     const ProgramResult result = start({QStringLiteral("Film.brevano")});
     VERIFY_CODE(result, 0);
-    QCOMPARE(result.lines().value(0), "The panel as a picture: " + picture().toUtf8());
     QVERIFY(result.output.contains("a.png"));
+    QCOMPARE(result.lines().constLast(), "The panel as a picture: " + picture().toUtf8());
     QCOMPARE(QImage(picture()).size(), pictureSize);
     QVERIFY(project.seek(0));
     QCOMPARE(project.readAll(), before);

@@ -70,3 +70,13 @@ file(GLOB worker ${prefix}/libexec/brevano/brevano-worker*)
 if(worker STREQUAL "")
     message(FATAL_ERROR "The worker is not installed in libexec/brevano.")
 endif()
+
+# Without it what is imported stays, and nobody is told that all went well.
+file(REMOVE ${worker})
+set(project ${WORK_DIR}/Unread.brevano)
+execute_process(COMMAND ${brevano} import ${project} ${WORK_DIR}/words.srt
+    RESULT_VARIABLE code OUTPUT_VARIABLE output ERROR_VARIABLE output)
+set(cause "The program that reads footage is not installed")
+if(NOT code EQUAL 3 OR NOT output MATCHES "${cause}" OR NOT output MATCHES "1 media added")
+    message(FATAL_ERROR "Importing without the worker ended with ${code}:\n${output}")
+endif()

@@ -53,6 +53,7 @@ private Q_SLOTS:
     void runEndsAsTheProgramEnded();
     void runMakesSamplesWithoutArguments();
     void runTellsThatTheBuildFailed();
+    void theReaderOfFootageIsBuiltWithTheProgram();
     void listingStandsAloneOnStandardOutput();
 
     void checkRunsItsStages_data();
@@ -352,6 +353,19 @@ void tst_Scripts::runTellsThatTheBuildFailed()
     QCOMPARE(result.code, 5);
     QVERIFY(result.errors.contains(QLatin1String("could not be built")));
     QCOMPARE(callsOf(yard, QStringLiteral("brevano")), QStringList());
+}
+
+// Nothing else of what ./run builds needs it, and without it no file is read.
+void tst_Scripts::theReaderOfFootageIsBuiltWithTheProgram()
+{
+    const CommandResult result =
+        runCommand(QStringLiteral("ninja"),
+                   {QStringLiteral("-C"), QStringLiteral(NX_BUILD_DIR), QStringLiteral("-t"),
+                    QStringLiteral("inputs"), QStringLiteral("brevano")});
+
+    QVERIFY2(result.code == 0, qPrintable(result.errors));
+    QVERIFY(result.output.contains(QLatin1String("/Src/Brevano/main.cpp\n")));
+    QVERIFY(result.output.contains(QLatin1String("/Src/brevano-worker/main.cpp\n")));
 }
 
 void tst_Scripts::listingStandsAloneOnStandardOutput()

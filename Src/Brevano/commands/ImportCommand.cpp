@@ -90,8 +90,10 @@ int ImportCommand::import(ProjectSession *session, INxFolderMedia *into,
         outcome.interrupted = !read(session, outcome.added, interrupts, &report);
     const bool isWritten = outcome.failure.isEmpty() && session->commit();
     tell(report, outcome.interrupted);
-    if (isWritten)
-        return ImportReportText::exitCode(report, outcome.interrupted);
+    if (isWritten) {
+        const int code = ImportReportText::exitCode(report, outcome.interrupted);
+        return code == Done && !m_canRead ? int(SomeRefused) : code;
+    }
     if (!outcome.failure.isEmpty())
         session->tellFailure(outcome.failure);
     return ProjectUnusable;
@@ -104,7 +106,8 @@ bool ImportCommand::read(ProjectSession *session, const QList<INxAbstractMediaIt
     const FootageRun::Outcome outcome = reading.run([&added](INxFootageService *service) {
         service->want(added, INxFootageService::wFacts | INxFootageService::wFingerprint);
     });
-    if (!outcome.trouble.isEmpty())
+    m_canRead = outcome.trouble.isEmpty();
+    if (!m_canRead)
         m_console->note(outcome.trouble);
     const ImportedCopies copies(*session);
     for (const INxAbstractMediaItem *media : added) {

@@ -33,6 +33,7 @@ private:
     Console *m_console = nullptr; // Not owned; there while run() is.
     bool m_json = false;
     bool m_reads = true;
+    bool m_canRead = true; // False when no file at all could be read.
     QStringList m_paths;
     /// Names that are no names of files as Qt can hold them.
     QVector<NxImportReportLine> m_refused;

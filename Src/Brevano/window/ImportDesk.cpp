@@ -275,6 +275,11 @@ void ImportDesk::onReading(qint64 read, qint64 known)
     m_progress.note();
 }
 
+QString ImportDesk::trouble() const
+{
+    return m_service ? m_service->trouble() : QString();
+}
+
 // Report
 
 NxImportReport ImportDesk::report() const

@@ -63,6 +63,8 @@ public:
     /// Files read of filesKnown() since all was last idle.
     [[nodiscard]] qint64 filesRead() const { return m_filesRead; }
     [[nodiscard]] qint64 filesKnown() const { return m_filesKnown; }
+    /// Why no file of the project can be read, a sentence; empty when all is well.
+    [[nodiscard]] QString trouble() const;
 
     /// Whether there has been an import since the project was set.
     [[nodiscard]] bool hasReport() const { return m_hasReport; }

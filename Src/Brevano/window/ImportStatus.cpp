@@ -18,6 +18,7 @@
 namespace {
 
 constexpr int BarWidth = 120; // px
+constexpr int TroubleWidth = 480; // px
 
 int barValue(qint64 number)
 {
@@ -111,17 +112,31 @@ QString ImportStatus::progressText() const
         .arg(locale.toString(m_desk->filesRead()), locale.toString(m_desk->filesKnown()));
 }
 
+QString ImportStatus::troubleText() const
+{
+    const QString reason = m_desk->trouble();
+    return reason.isEmpty() ? QString() : tr("Files cannot be read: %1").arg(reason);
+}
+
+QString ImportStatus::shortened(const QString &text) const
+{
+    return m_text->fontMetrics().elidedText(text, Qt::ElideRight, TroubleWidth);
+}
+
 void ImportStatus::showProgress()
 {
     const bool isBusy = m_desk->isBusy();
     const bool isAtWork = isBusy || m_desk->isReading();
-    m_text->setText(isAtWork ? progressText() : QString());
-    m_text->setVisible(isAtWork);
+    const QString trouble = isAtWork ? QString() : troubleText();
+    m_text->setText(isAtWork ? progressText() : shortened(trouble));
+    m_text->setToolTip(trouble);
+    m_text->setAccessibleName(trouble);
+    m_text->setVisible(!m_text->text().isEmpty());
     showBar();
     m_bar->setVisible(isAtWork);
     m_cancel->setVisible(isBusy);
     m_report->setVisible(m_hasNews && !isBusy);
-    setVisible(isAtWork || m_hasNews);
+    setVisible(isAtWork || m_hasNews || !trouble.isEmpty());
 }
 
 void ImportStatus::showBar()

@@ -9,8 +9,8 @@ class QLabel;
 class QProgressBar;
 class QPushButton;
 
-/// How far the import is, for the status bar; after it, the way to its report. Hidden while there
-/// is nothing to say.
+/// How far the import is, for the status bar; after it, the way to its report, and why files cannot
+/// be read if none of them can. Hidden while there is nothing to say.
 class ImportStatus : public QWidget
 {
     Q_OBJECT
@@ -32,6 +32,8 @@ private:
     void takeReport();
     void showProgress();
     [[nodiscard]] QString progressText() const;
+    [[nodiscard]] QString troubleText() const;
+    [[nodiscard]] QString shortened(const QString &text) const;
     void showBar();
 
     ImportDesk *const m_desk; // Not owned.

@@ -135,9 +135,9 @@ int WindowProgram::drawPicture(const WindowRequest &request)
                                       word(picture), word(QStringLiteral("--")), project});
     if (drawn == ProjectUnusable)
         return drawn;
+    const int listed = wordsToCommand("list", {project});
     if (drawn != NothingDone)
         m_console->line(QStringLiteral("The panel as a picture: ") + picture);
-    const int listed = wordsToCommand("list", {project});
     for (const int code : {imported, listed, drawn}) {
         if (code != Done)
             return code;

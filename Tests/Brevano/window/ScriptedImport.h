@@ -55,7 +55,7 @@ struct ScriptedReader final : INxFootageService
         return states.value(item);
     }
     bool isIdle() const override { return true; }
-    QString trouble() const override { return QString(); }
+    QString trouble() const override { return obstacle; }
 
     /// The file turns out unreadable, or, with an empty reason, is read.
     void tell(INxAbstractMediaItem *item, const QString &reason)
@@ -67,6 +67,7 @@ struct ScriptedReader final : INxFootageService
 
     QHash<const INxAbstractMediaItem *, NxFootageState> states;
     QList<INxAbstractMediaItem *> asked;
+    QString obstacle; ///< Why nothing can be read.
 };
 
 /// A section that lists media which the test owns.

@@ -76,6 +76,7 @@ private Q_SLOTS:
     void theReportIsOfferedWhenItHasSomethingToTell();
     void anImportThatWentWellLeavesNothingBehind();
     void aFileThatTurnsOutUnreadableBringsTheReport();
+    void whyNothingCanBeReadIsTold();
     void closingTheProjectTakesTheReportAway();
     void theTextsAreThoseOfTheLanguageOfNow();
     void theLinkWearsTheColourOfLinks();
@@ -178,6 +179,27 @@ void tst_ImportStatus::aFileThatTurnsOutUnreadableBringsTheReport()
     stand.project.reader.tell(&media, QStringLiteral("Cut off."));
     QTRY_VERIFY(stand.shows(stand.report));
     stand.project.reader.tell(&media, QString());
+    QTRY_VERIFY(!stand.status.isVisible());
+}
+
+void tst_ImportStatus::whyNothingCanBeReadIsTold()
+{
+    Stand stand;
+    const auto *label = stand.status.findChild<QLabel *>();
+    stand.project.reader.obstacle = QStringLiteral("The reader is gone. ").repeated(30).trimmed();
+    const QString whole = QStringLiteral("Files cannot be read: ") + stand.project.reader.obstacle;
+    Q_EMIT stand.project.reader.progress(1, 2);
+    QTRY_COMPARE(stand.text(), QStringLiteral("Reading 1 of 2"));
+    QCOMPARE(label->toolTip(), QString());
+    Q_EMIT stand.project.reader.idle();
+    QTRY_COMPARE(label->toolTip(), whole);
+    QCOMPARE(label->accessibleName(), whole);
+    QVERIFY(stand.status.isVisible());
+    QVERIFY(label->isVisible());
+    QVERIFY(stand.text().startsWith(QStringLiteral("Files cannot be read: The reader is gone.")));
+    QVERIFY(stand.text().size() < whole.size()); // So long that the window would grow.
+    QVERIFY(!stand.bar()->isVisible());
+    stand.desk.setProject(nullptr);
     QTRY_VERIFY(!stand.status.isVisible());
 }
 
