@@ -5,7 +5,9 @@
 #include <NxCore/NxDiskBan.h>
 #include <NxWorkerProtocol/NxWorkerExit.h>
 
+#include <QAbstractEventDispatcher>
 #include <QPointer>
+#include <QSocketNotifier>
 
 #include <optional>
 #include <utility>
@@ -171,6 +173,28 @@ void NxWorkerProcess::onFailed(QProcess::ProcessError error)
     if (error == QProcess::FailedToStart)
         end(NxWorkerEnd::NotStarted,
             tr("%1 cannot be started: %2.").arg(m_program, m_process->errorString()));
+    if (error == QProcess::WriteError)
+        stopWatchingInputSoon();
+}
+
+// QProcess closes the pipe into which it cannot write, and then goes on watching its number, which
+// may soon be that of another file: after this call, but before the event loop waits again.
+void NxWorkerProcess::stopWatchingInputSoon()
+{
+    using Loop = QAbstractEventDispatcher;
+    for (const auto next : {&Loop::awake, &Loop::aboutToBlock})
+        connect(Loop::instance(), next, this, &NxWorkerProcess::stopWatchingInput,
+            Qt::UniqueConnection);
+}
+
+void NxWorkerProcess::stopWatchingInput()
+{
+    disconnect(QAbstractEventDispatcher::instance(), nullptr, this, nullptr);
+    const auto notifiers = m_process->findChildren<QSocketNotifier *>();
+    for (QSocketNotifier *notifier : notifiers) {
+        if (notifier->type() == QSocketNotifier::Write)
+            notifier->setEnabled(false);
+    }
 }
 
 void NxWorkerProcess::onFinished(int code, QProcess::ExitStatus status)

@@ -66,6 +66,8 @@ private:
     void onBytes();
     void onFinished(int code, QProcess::ExitStatus status);
     void onFailed(QProcess::ProcessError error);
+    void stopWatchingInputSoon();
+    void stopWatchingInput();
     void take(const NxWorkerFrames::Frame &frame);
     void greet(const QByteArray &bytes);
     void takeAnswer(const QByteArray &bytes);

@@ -107,6 +107,8 @@ void ScriptedWorker::greet()
         (void)::write(STDOUT_FILENO, "Hello, world!", PieceOfFrame);
         hang();
     }
+    if (manner == QLatin1String("earless"))
+        ::close(STDIN_FILENO);
     NxWorkerHello hello;
     if (manner == QLatin1String("otherversion"))
         hello.version = OtherVersion;
@@ -120,7 +122,8 @@ bool ScriptedWorker::readMore()
     const ssize_t count = ::read(STDIN_FILENO, bytes.data(), size_t(bytes.size()));
     if (count > 0)
         m_frames.append(bytes.left(int(count)));
-    if (count <= 0 && m_folder.dirName() == QLatin1String("deaf"))
+    const QString manner = m_folder.dirName();
+    if (count <= 0 && (manner == QLatin1String("deaf") || manner == QLatin1String("earless")))
         hang();
     return count > 0;
 }

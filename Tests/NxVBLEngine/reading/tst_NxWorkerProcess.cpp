@@ -85,6 +85,7 @@ private Q_SLOTS:
     void itCloses();
     void itIsKilled();
     void oneThatIsStoppedCanBeKilled();
+    void oneThatListensNoMoreIsNotWatched();
     void aRunningOneDiesWithItsOwner();
     void itsOwnerMayLetItGoInAnySignal_data();
     void itsOwnerMayLetItGoInAnySignal();
@@ -213,6 +214,21 @@ void tst_NxWorkerProcess::oneThatIsStoppedCanBeKilled()
     QVERIFY(f.goes());
     QVERIFY(f.footage.requests().isEmpty());
     QVERIFY(isProcessGone(id));
+}
+
+// So is one that has crashed, until its end is noticed. Watching on would be a warning of Qt's.
+void tst_NxWorkerProcess::oneThatListensNoMoreIsNotWatched()
+{
+    constexpr int fewTurns = 10;
+    Worker f(QStringLiteral("earless"));
+    QVERIFY(f.startsReady());
+    f.ask(QStringLiteral("a.mp4"));
+    for (int turn = 0; turn < fewTurns; ++turn)
+        QCoreApplication::processEvents();
+    QVERIFY(f.answers.empty());
+    f.process->kill();
+    QVERIFY(f.goes());
+    QCOMPARE(f.end, NxWorkerEnd::Crashed);
 }
 
 void tst_NxWorkerProcess::aRunningOneDiesWithItsOwner()
