@@ -5,6 +5,7 @@
 #include <NxCore/NxQueue.h>
 #include <NxVBLEngine/disk/NxDiskThread.h>
 #include <NxVBLEngine/objects/NxProjectMemory.h>
+#include <NxVBLEngine/objects/NxSlice.h>
 
 #include <QPointer>
 #include <QThread>
@@ -20,7 +21,6 @@ constexpr int RoundInterval = 2'000; // ms
 constexpr int PollsPerRound = NxWatchedFolders::LooksPerSecond * RoundInterval / 1'000;
 constexpr int FilesPerCheck = 1'000;
 constexpr int FilesPerRound = 1'000;
-constexpr qint64 LongestSlice = 6; // ms
 
 } // namespace
 
@@ -273,10 +273,11 @@ void NxPresenceKeeper::pump()
     for (const News &news : m_post->queue.drain())
         takeNews(news);
     const QPointer<NxPresenceKeeper> self(this);
-    applyAnswers();
+    const NxSlice slice;
+    applyAnswers(slice);
     if (!self)
         return;
-    fileFresh();
+    fileFresh(slice);
     checkNext();
     if (!m_answers.empty() || !m_fresh.empty())
         m_pumpTimer.start();
@@ -284,24 +285,20 @@ void NxPresenceKeeper::pump()
         callDone();
 }
 
-void NxPresenceKeeper::fileFresh()
+void NxPresenceKeeper::fileFresh(const NxSlice &slice)
 {
     constexpr size_t atOnce = 200;
-    QElapsedTimer clock;
-    clock.start();
-    while (!m_fresh.empty() && !clock.hasExpired(LongestSlice)) {
+    while (!m_fresh.empty() && !slice.isOver()) {
         const auto end = m_fresh.begin() + std::ptrdiff_t(std::min(atOnce, m_fresh.size()));
         m_folders.wantMedia({m_fresh.begin(), end});
         m_fresh.erase(m_fresh.begin(), end);
     }
 }
 
-void NxPresenceKeeper::applyAnswers()
+void NxPresenceKeeper::applyAnswers(const NxSlice &slice)
 {
-    QElapsedTimer clock;
-    clock.start();
     const QPointer<NxPresenceKeeper> self(this);
-    while (self && !m_answers.empty() && !clock.hasExpired(LongestSlice)) {
+    while (self && !m_answers.empty() && !slice.isOver()) {
         const NxFileAnswer answer = std::move(m_answers.front());
         m_answers.pop_front();
         apply(answer);

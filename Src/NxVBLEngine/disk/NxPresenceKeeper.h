@@ -24,6 +24,7 @@
 
 class NxDiskThread;
 class NxProjectMemory;
+class NxSlice;
 struct NxChange;
 
 /// Knows whether the files of a project's media are there.
@@ -74,8 +75,8 @@ private:
     void pump();
     void takeNews(const News &news);
     void takeAnswers(std::vector<NxFileAnswer> answers);
-    void fileFresh();
-    void applyAnswers();
+    void fileFresh(const NxSlice &slice);
+    void applyAnswers(const NxSlice &slice);
     void apply(const NxFileAnswer &answer);
     [[nodiscard]] bool isSettled() const;
     void callDone();

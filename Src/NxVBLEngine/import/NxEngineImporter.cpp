@@ -11,6 +11,7 @@
 #include <NxVBLEngine/objects/NxEngineCategory.h>
 #include <NxVBLEngine/objects/NxEngineFolder.h>
 #include <NxVBLEngine/objects/NxProjectMemory.h>
+#include <NxVBLEngine/objects/NxSlice.h>
 #include <NxVBLEngine/store/NxProjectStore.h>
 
 #include <QPointer>
@@ -21,7 +22,6 @@
 
 namespace {
 
-constexpr qint64 LongestSlice = 6; // ms
 constexpr qint64 ProgressInterval = 100; // ms
 constexpr int EnoughWaiting = int(NxImportChannel::MostWaiting);
 
@@ -201,7 +201,7 @@ void NxEngineImporter::workOnCurrentJob()
         beginWalk();
     if (job.waiting() < EnoughWaiting)
         takeWalked();
-    job.addSlice(LongestSlice);
+    job.addSlice(NxSlice::Longest);
     if (job.isStopped())
         m_channel->cancel();
     else if (m_channel->isResting() && job.waiting() < EnoughWaiting)

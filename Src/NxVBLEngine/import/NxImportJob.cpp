@@ -6,9 +6,8 @@
 #include <NxVBLEngine/objects/NxEngineCategory.h>
 #include <NxVBLEngine/objects/NxEngineFolder.h>
 #include <NxVBLEngine/objects/NxEngineUndoStack.h>
+#include <NxVBLEngine/objects/NxSlice.h>
 #include <NxVBLModel/NxFolderPath.h>
-
-#include <QElapsedTimer>
 
 #include <algorithm>
 #include <cstddef>
@@ -116,9 +115,8 @@ void NxImportJob::addSlice(qint64 milliseconds)
 
 void NxImportJob::handleWaiting(qint64 milliseconds)
 {
-    QElapsedTimer clock;
-    clock.start();
-    while (!m_stopped && !m_waiting.empty() && !clock.hasExpired(milliseconds)) {
+    const NxSlice slice(milliseconds);
+    while (!m_stopped && !m_waiting.empty() && !slice.isOver()) {
         const NxWalkEntry entry = std::move(m_waiting.front());
         m_waiting.pop_front();
         (this->*s_handlers[size_t(entry.step)])(entry);

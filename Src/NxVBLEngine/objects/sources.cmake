@@ -49,6 +49,7 @@ list(APPEND NXVBLENGINE_SOURCES
     objects/NxResourceCatalogue.h
     objects/NxSiblingPlaces.cpp
     objects/NxSiblingPlaces.h
+    objects/NxSlice.h
     objects/NxStreamDescription.cpp
     objects/NxStreamDescription.h
     objects/NxStreamDescriptions.cpp

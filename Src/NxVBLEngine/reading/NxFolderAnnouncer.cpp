@@ -5,16 +5,11 @@
 #include <NxVBLEngine/objects/NxEngineCategory.h>
 #include <NxVBLEngine/objects/NxEngineFolder.h>
 #include <NxVBLEngine/objects/NxProjectMemory.h>
+#include <NxVBLEngine/objects/NxSlice.h>
 
 #include <QPointer>
 
 #include <algorithm>
-
-namespace {
-
-constexpr qint64 LongestSlice = 6; // ms
-
-} // namespace
 
 NxFolderAnnouncer::NxFolderAnnouncer(NxProjectMemory *memory)
     : m_memory(memory)
@@ -56,11 +51,10 @@ void NxFolderAnnouncer::findDue()
 void NxFolderAnnouncer::announce()
 {
     const QPointer<NxFolderAnnouncer> self(this);
-    QElapsedTimer clock;
-    clock.start();
+    const NxSlice slice;
     if (m_due.empty())
         findDue();
-    while (!m_due.empty() && !clock.hasExpired(LongestSlice)) {
+    while (!m_due.empty() && !slice.isOver()) {
         const Key key = m_due.front();
         m_due.pop_front();
         tell(key);

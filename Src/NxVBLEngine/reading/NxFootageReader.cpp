@@ -3,6 +3,7 @@
 #include <NxVBLEngine/reading/NxFootageReader.h>
 
 #include <NxVBLEngine/objects/NxProjectMemory.h>
+#include <NxVBLEngine/objects/NxSlice.h>
 #include <NxVBLEngine/reading/NxReadRequests.h>
 #include <NxVBLEngine/reading/NxReadingThread.h>
 #include <NxWorkerProtocol/NxPictureFile.h>
@@ -15,7 +16,6 @@
 
 namespace {
 
-constexpr qint64 LongestSlice = 6; // ms
 constexpr int ProgressInterval = 100; // ms
 constexpr int WeightPerWorker = 16;
 
@@ -123,10 +123,11 @@ void NxFootageReader::pump()
         for (NxReadOutcome &outcome : m_thread->take())
             m_outcomes.push_back(std::move(outcome));
     }
-    applyOutcomes();
+    const NxSlice slice;
+    applyOutcomes(slice);
     if (!self)
         return;
-    fileFresh();
+    fileFresh(slice);
     submit();
     if (!m_outcomes.empty() || !m_fresh.empty())
         m_pumpTimer.start();
@@ -141,10 +142,9 @@ void NxFootageReader::submit()
     }
     std::vector<NxReadRequest> requests;
     const int budget = std::max(m_settings.workers, 1) * WeightPerWorker;
-    QElapsedTimer clock;
-    clock.start();
+    const NxSlice slice; // Of its own: the workers must not wait for what they sent.
     while (m_load < budget) {
-        if (clock.hasExpired(LongestSlice)) {
+        if (slice.isOver()) {
             m_pumpTimer.start(); // Many wait whose files are away.
             break;
         }

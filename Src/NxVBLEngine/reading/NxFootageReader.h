@@ -26,6 +26,7 @@
 class NxEngineMedia;
 class NxProjectMemory;
 class NxReadingThread;
+class NxSlice;
 struct NxChange;
 
 /// Has the files of an open project read by workers, and takes what they find into the project.
@@ -84,12 +85,12 @@ private:
     [[nodiscard]] bool wantOne(const NxEngineMedia *media, int wishes);
     void pumpLater();
     void pump();
-    void fileFresh();
+    void fileFresh(const NxSlice &slice);
     void file(const NxEngineMedia *media);
     void submit();
     void submit(const NxReadingOrder::Item &item, std::vector<NxReadRequest> *requests);
     [[nodiscard]] quint8 wishesFor(const NxReadingOrder::Item &item) const;
-    void applyOutcomes();
+    void applyOutcomes(const NxSlice &slice);
     void apply(const NxReadOutcome &outcome);
     void applyAnswer(NxEngineMedia *media, const Flight &flight, const NxReadAnswer &answer);
     void applyFacts(NxEngineMedia *media, const Flight &flight, const NxReadAnswer &answer);

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 // Which files are to be read, and when.
 #include <NxVBLEngine/objects/NxProjectMemory.h>
+#include <NxVBLEngine/objects/NxSlice.h>
 #include <NxVBLEngine/reading/NxFootageReader.h>
 #include <NxVBLEngine/reading/NxReadingThread.h>
 
@@ -12,8 +13,6 @@
 #include <utility>
 
 namespace {
-
-constexpr qint64 LongestSlice = 6; // ms
 
 /// What failed is not tried again by itself.
 bool needsPictures(const NxEngineMedia *media)
@@ -185,11 +184,9 @@ void NxFootageReader::onApplied(const NxChange &change)
     pumpLater();
 }
 
-void NxFootageReader::fileFresh()
+void NxFootageReader::fileFresh(const NxSlice &slice)
 {
-    QElapsedTimer clock;
-    clock.start();
-    while (!m_fresh.empty() && !clock.hasExpired(LongestSlice)) {
+    while (!m_fresh.empty() && !slice.isOver()) {
         const NxEngineMedia *media = m_memory->media(m_fresh.front());
         m_fresh.pop_front();
         if (media && media->folder())

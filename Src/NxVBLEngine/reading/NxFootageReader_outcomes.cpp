@@ -4,6 +4,7 @@
 #include <NxVBLEngine/reading/NxFootageReader.h>
 
 #include <NxVBLEngine/objects/NxProjectMemory.h>
+#include <NxVBLEngine/objects/NxSlice.h>
 #include <NxVBLEngine/reading/NxReadingThread.h>
 
 #include <QPointer>
@@ -12,8 +13,6 @@
 #include <utility>
 
 namespace {
-
-constexpr qint64 LongestSlice = 6; // ms
 
 NxPictureState stateOf(const NxPictureAnswer &picture)
 {
@@ -42,14 +41,12 @@ void failPictures(NxFootageRecord *record, const QString &reason)
 
 } // namespace
 
-void NxFootageReader::applyOutcomes()
+void NxFootageReader::applyOutcomes(const NxSlice &slice)
 {
     if (m_outcomes.empty())
         return;
-    QElapsedTimer clock;
-    clock.start();
     const QPointer<NxFootageReader> self(this);
-    while (self && !m_outcomes.empty() && !clock.hasExpired(LongestSlice)) {
+    while (self && !m_outcomes.empty() && !slice.isOver()) {
         const NxReadOutcome outcome = std::move(m_outcomes.front());
         m_outcomes.pop_front();
         apply(outcome);

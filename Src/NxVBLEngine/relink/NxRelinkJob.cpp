@@ -4,11 +4,10 @@
 
 #include <NxVBLEngine/import/NxImportRules.h>
 #include <NxVBLEngine/objects/NxProjectMemory.h>
+#include <NxVBLEngine/objects/NxSlice.h>
 #include <NxVBLEngine/reading/NxFileLength.h>
 #include <NxVBLEngine/reading/NxReadRequests.h>
 #include <NxVBLEngine/relink/NxRelinkMatcher.h>
-
-#include <QElapsedTimer>
 
 #include <algorithm>
 #include <iterator>
@@ -81,9 +80,8 @@ void NxRelinkJob::giveUpWalk(const QString &directory)
 
 void NxRelinkJob::work(qint64 milliseconds)
 {
-    QElapsedTimer clock;
-    clock.start();
-    while (!m_waiting.empty() && !clock.hasExpired(milliseconds)) {
+    const NxSlice slice(milliseconds);
+    while (!m_waiting.empty() && !slice.isOver()) {
         const NxWalkEntry entry = std::move(m_waiting.front());
         m_waiting.pop_front();
         handle(entry);

@@ -4,6 +4,7 @@
 
 #include <NxVBLEngine/disk/NxDiskThread.h>
 #include <NxVBLEngine/import/NxImportChannel.h>
+#include <NxVBLEngine/objects/NxSlice.h>
 #include <NxVBLEngine/reading/NxReadingThread.h>
 #include <NxVBLEngine/relink/NxRelinkJob.h>
 
@@ -14,7 +15,6 @@
 
 namespace {
 
-constexpr qint64 LongestSlice = 6; // ms
 constexpr int ProgressInterval = 100; // ms
 constexpr int RequestsPerWorker = 64;
 constexpr int EnoughWaiting = int(NxImportChannel::MostWaiting);
@@ -147,7 +147,7 @@ bool NxRelinkSearch::advance(Running *running)
     NxRelinkJob &job = running->job;
     if (running->channel)
         walk(running);
-    job.work(LongestSlice);
+    job.work(NxSlice::Longest);
     if (job.waiting() > 0)
         pumpLater();
     submit(running);
