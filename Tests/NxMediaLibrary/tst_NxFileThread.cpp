@@ -4,6 +4,7 @@
 
 #include <NxCore/NxQueue.h>
 #include <Support/NxTestMain.h>
+#include <Support/NxThreadNiceness.h>
 
 #include <QThread>
 #include <QVector>
@@ -35,6 +36,7 @@ class tst_NxFileThread : public QObject
     Q_OBJECT
 private Q_SLOTS:
     void tasksRunElsewhereAndAnswersHereInOrder();
+    void tasksStepBackForTheWindow();
     void whatWaitsCanBeDropped();
     void nothingIsAnsweredAfterItsEnd();
     void anAnswerMayDestroyIt();
@@ -57,6 +59,17 @@ void tst_NxFileThread::tasksRunElsewhereAndAnswersHereInOrder()
         });
     }
     QTRY_COMPARE(answers, QVector<int>({0, 1, 2, 3, 4}));
+}
+
+void tst_NxFileThread::tasksStepBackForTheWindow()
+{
+    NxFileThread thread;
+    int niceness = -1;
+    thread.post([&niceness]() -> Answer {
+        const int found = NxThreadNiceness::own();
+        return [&niceness, found] { niceness = found; };
+    });
+    QTRY_COMPARE(niceness, NxThreadNiceness::atLeast(5));
 }
 
 void tst_NxFileThread::whatWaitsCanBeDropped()

@@ -5,6 +5,7 @@
 #include <NxCore/NxDoorbellRope.h>
 #include <NxCore/NxLog.h>
 #include <NxCore/NxQueue.h>
+#include <NxCore/NxStepBack.h>
 
 #include <atomic>
 #include <optional>
@@ -87,6 +88,7 @@ void NxFileThread::leaveIfStuck()
 void NxFileThread::work(const std::shared_ptr<Shared> &shared,
                         const std::shared_ptr<Worker> &worker)
 {
+    nxStepBack();
     while (!worker->isLeft && !shared->tasks.isClosed()) {
         std::optional<Task> task = shared->tasks.waitPop(IdleWait);
         if (!task)

@@ -4,6 +4,7 @@
 
 #include <NxCore/NxLog.h>
 #include <NxCore/NxQueue.h>
+#include <NxCore/NxStepBack.h>
 
 #include <algorithm>
 #include <mutex>
@@ -139,6 +140,7 @@ void NxDiskThread::startThread()
 void NxDiskThread::work(
     const std::shared_ptr<Shared> &shared, const std::shared_ptr<Worker> &worker)
 {
+    nxStepBack();
     while (std::optional<PostedTask> task = shared->next()) {
         worker->begin(task->number);
         task->run(worker->pulse);

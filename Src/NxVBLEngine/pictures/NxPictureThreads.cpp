@@ -3,6 +3,7 @@
 #include <NxVBLEngine/pictures/NxPictureThreads.h>
 
 #include <NxCore/NxDiskBan.h>
+#include <NxCore/NxStepBack.h>
 #include <NxVBLEngine/pictures/NxPictureCache.h>
 
 #include <QFile>
@@ -102,6 +103,7 @@ std::vector<NxPictureThreads::Result> NxPictureThreads::take()
 
 void NxPictureThreads::work(const std::shared_ptr<Shared> &shared)
 {
+    nxStepBack();
     while (!shared->orders.isClosed()) {
         const std::optional<Order> order = shared->orders.waitPop(IdleWait);
         if (!order)

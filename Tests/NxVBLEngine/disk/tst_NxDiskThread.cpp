@@ -3,6 +3,7 @@
 #include <NxVBLEngine/disk/NxDiskThread.h>
 
 #include <Support/NxTestMain.h>
+#include <Support/NxThreadNiceness.h>
 
 #include <NxCore/NxQueue.h>
 
@@ -44,6 +45,7 @@ class tst_NxDiskThread : public QObject
     Q_OBJECT
 private Q_SLOTS:
     void tasksRunInOrderOnOneOtherThread();
+    void tasksStepBackForTheWindow();
     void smallTasksRunFirst();
     void aTaskThatHangsIsLeftBehind();
     void aTaskThatGivesSignsOfLifeIsNot();
@@ -73,6 +75,14 @@ void tst_NxDiskThread::tasksRunInOrderOnOneOtherThread()
     QVERIFY(threads.front() != std::this_thread::get_id());
     QVERIFY(std::all_of(threads.begin(), threads.end(),
                         [&threads](std::thread::id id) { return id == threads.front(); }));
+}
+
+void tst_NxDiskThread::tasksStepBackForTheWindow()
+{
+    const auto shared = std::make_shared<Shared>();
+    NxDiskThread disk;
+    disk.post([shared](NxDiskPulse &) { shared->order.push(NxThreadNiceness::own()); });
+    QCOMPARE(waitFor(shared, 1), std::vector<int>({NxThreadNiceness::atLeast(5)}));
 }
 
 void tst_NxDiskThread::smallTasksRunFirst()

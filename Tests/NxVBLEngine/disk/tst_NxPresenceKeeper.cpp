@@ -464,12 +464,12 @@ void tst_NxPresenceKeeper::aFewLooksAtRest()
     const NxTempDir dir;
     const Disk disk;
     Watch f(disk.disk);
-    for (int i = 0; i < 300; ++i)
+    for (int i = 0; i < 200; ++i)
         f.add(dir.filePath(QStringLiteral("gone/%1.mp4").arg(i)));
     QVERIFY(f.refresh());
     const int before = disk.state->looks;
     QTRY_VERIFY_WITH_TIMEOUT(disk.state->looks > before, NoticedWithin); // A round went by.
-    QVERIFY2(disk.state->looks <= before + 3, "three hundred files are away with one folder");
+    QVERIFY2(disk.state->looks <= before + 3, "two hundred files are away with one folder");
 }
 
 void tst_NxPresenceKeeper::filesThatAreThereAreToldOf()

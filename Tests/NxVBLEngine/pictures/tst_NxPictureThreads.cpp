@@ -6,6 +6,7 @@
 #include <NxVBLEngine/pictures/NxPictureThreads.h>
 #include <Support/NxTempDir.h>
 #include <Support/NxTestMain.h>
+#include <Support/NxThreadNiceness.h>
 
 #include <QFile>
 #include <QSemaphore>
@@ -102,6 +103,7 @@ private Q_SLOTS:
     void whatWaitsCanBeDropped();
     void whatIsStillWantedKeepsItsOrder();
     void choresAreDoneAndNeverDropped();
+    void theyStepBackForTheWindow();
     void theyEndWhileTheyAreBusy();
     void theyEndWithoutEverHavingBegun();
 };
@@ -279,6 +281,16 @@ void tst_NxPictureThreads::choresAreDoneAndNeverDropped()
     }
     QTRY_COMPARE(done->load(), 5);
     QVERIFY(f.threads->take().empty());
+}
+
+void tst_NxPictureThreads::theyStepBackForTheWindow()
+{
+    constexpr int unknown = -1;
+    Pictures f;
+    const auto niceness = std::make_shared<std::atomic<int>>(unknown);
+    f.threads->run([niceness] { *niceness = NxThreadNiceness::own(); });
+    QTRY_VERIFY(*niceness != unknown);
+    QCOMPARE(niceness->load(), NxThreadNiceness::atLeast(5));
 }
 
 void tst_NxPictureThreads::theyEndWhileTheyAreBusy()
