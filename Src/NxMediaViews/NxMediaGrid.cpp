@@ -17,24 +17,27 @@ void NxMediaGrid::layOut(int rows, const QVector<int> &heads, const Measures &me
     m_measures = measures;
     m_rows = rows;
     m_perLine = itemsPerLine(measures);
-    m_height = 0;
-    m_blocks.clear();
-    m_blocks.reserve(size_t(heads.size()) + 1);
-    const int firstHead = heads.isEmpty() ? rows : heads.constFirst();
-    if (firstHead > 0)
-        addBlock(0, firstHead, false);
-    for (int i = 0; i < heads.size(); ++i)
-        addBlock(heads.at(i), i + 1 < heads.size() ? heads.at(i + 1) : rows, true);
-}
-
-void NxMediaGrid::addBlock(int first, int end, bool hasHead)
-{
-    Block block{first, hasHead ? first + 1 : first, end, m_height, 0};
-    block.mediaTop = m_height + (hasHead ? m_measures.headHeight : 0) + m_measures.spacing;
-    m_blocks.push_back(block);
-    const int lines = linesOf(block);
-    m_height = lines > 0 ? block.mediaTop + lines * lineHeight()
-                         : m_height + (hasHead ? m_measures.headHeight : 0);
+    const int above = heads.isEmpty() ? rows : heads.constFirst(); // Media without a head.
+    m_blocks.resize(size_t(heads.size()) + (above > 0 ? 1 : 0));
+    // Local: a member could be what is stored in a block, and would be read again for each of them.
+    const int spacing = measures.spacing;
+    const int headHeight = measures.headHeight;
+    const int height = lineHeight();
+    const auto perLine = unsigned(m_perLine);
+    Block *block = m_blocks.data();
+    int top = 0;
+    const auto add = [&](int first, int media, int end) {
+        const unsigned lines = (unsigned(end - media) + perLine - 1) / perLine;
+        const int below = top + (media - first) * headHeight;
+        *block++ = {first, media, end, top, below + spacing};
+        top = lines > 0 ? below + spacing + int(lines) * height : below;
+    };
+    if (above > 0)
+        add(0, 0, above);
+    const int *const ends = heads.constData() + heads.size();
+    for (const int *head = heads.constData(); head != ends; ++head)
+        add(*head, *head + 1, head + 1 != ends ? *(head + 1) : rows);
+    m_height = top;
 }
 
 bool NxMediaGrid::isHead(int row) const

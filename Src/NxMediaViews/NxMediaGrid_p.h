@@ -71,7 +71,6 @@ private:
         int mediaTop; // px, of the first line.
     };
 
-    void addBlock(int first, int end, bool hasHead);
     [[nodiscard]] const Block &blockOf(int row) const;
     [[nodiscard]] const Block &blockAt(int height) const;
     [[nodiscard]] int lineHeight() const { return m_measures.cell.height() + m_measures.spacing; }
