@@ -58,8 +58,8 @@ private:
     std::vector<double> m_worked;
 };
 
-/// The frames of a scroll that goes the same way several times. What makes one of them late once and
-/// not again is the machine's, which does other things, too: "machine" tells how often.
+/// The frames of a scroll that goes the same way several times. What makes one of them late once
+/// and not again is the machine's, which does other things, too: "machine" tells how often.
 class Frames
 {
 public:

@@ -3,6 +3,7 @@
 #include <NxVBLEngine/reading/NxWorkerProcess.h>
 
 #include <NxCore/NxDiskBan.h>
+#include <NxVBLEngine/reading/NxForkGuard.h>
 #include <NxWorkerProtocol/NxWorkerExit.h>
 
 #include <QAbstractEventDispatcher>
@@ -74,6 +75,7 @@ NxWorkerProcess::~NxWorkerProcess()
 void NxWorkerProcess::start()
 {
     NxDiskBan::note("NxWorkerProcess::start");
+    const NxForkGuard guard;
     m_process->start(QIODevice::ReadWrite | QIODevice::Unbuffered);
 }
 

@@ -1,3 +1,8 @@
+if(WIN32)
+    set(nx_reading_system win)
+else()
+    set(nx_reading_system unix)
+endif()
 list(APPEND NXVBLENGINE_SOURCES
     reading/NxFileLength.cpp
     reading/NxFileLength.h
@@ -7,6 +12,8 @@ list(APPEND NXVBLENGINE_SOURCES
     reading/NxFootageReader.h
     reading/NxFootageReader_order.cpp
     reading/NxFootageReader_outcomes.cpp
+    reading/NxForkGuard.h
+    reading/NxForkGuard_${nx_reading_system}.cpp
     reading/NxQuietFiles.cpp
     reading/NxQuietFiles.h
     reading/NxReadOutcome.h

@@ -7,14 +7,32 @@
 #include <QFileInfo>
 #include <QSysInfo>
 
+#ifdef Q_OS_UNIX
+#include <cerrno>
+#include <csignal>
+#endif
+
 namespace {
 
-/// How long a lock that names nobody may be one that is just being written, in ms.
-constexpr int HalfWrittenMsec = 200;
+/// How long a lock may be one that is just being written, if it names nobody, or that is just being
+/// given back by the system, if whoever it names is dead, in ms.
+constexpr int ChangingMsec = 200;
 
 QString translated(const char *text)
 {
     return QCoreApplication::translate("NxProjectStore", text);
+}
+
+/// False only if there is surely no such process on this computer.
+bool mayRun(qint64 process, const QString &host)
+{
+#ifdef Q_OS_UNIX
+    if (host == QSysInfo::machineHostName())
+        return ::kill(pid_t(process), 0) == 0 || errno != ESRCH;
+#endif
+    Q_UNUSED(process)
+    Q_UNUSED(host)
+    return true;
 }
 
 } // namespace
@@ -36,12 +54,15 @@ NxProjectLock::Answer NxProjectLock::tryLock()
     qint64 process = 0;
     QString host;
     QString program;
-    if (m_file.getLockInfo(&process, &host, &program))
+    const bool isNamed = m_file.getLockInfo(&process, &host, &program);
+    if (isNamed && mayRun(process, host))
+        return Answer::Taken;
+    if (m_file.tryLock(ChangingMsec))
+        return Answer::Ours;
+    if (isNamed)
         return Answer::Taken;
     // Its maker was killed before it wrote its name. A living one holds the system's lock on it,
     // against which the removal fails.
-    if (m_file.tryLock(HalfWrittenMsec))
-        return Answer::Ours;
     return m_file.removeStaleLockFile() && m_file.tryLock(0) ? Answer::Ours : Answer::Taken;
 }
 

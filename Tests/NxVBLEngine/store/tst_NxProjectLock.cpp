@@ -5,6 +5,7 @@
 
 #include "StoreSamples.h"
 
+#include <NxCore/NxQueue.h>
 #include <Support/NxTempDir.h>
 #include <Support/NxTestMain.h>
 
@@ -12,6 +13,11 @@
 #include <QFileInfo>
 #include <QProcess>
 #include <QSysInfo>
+
+#include <sys/file.h>
+
+#include <chrono>
+#include <thread>
 
 using namespace StoreSamples;
 using Answer = NxProjectLock::Answer;
@@ -25,6 +31,7 @@ private Q_SLOTS:
     void twoLinksToOneProjectMeetAtOneLock();
     void anotherProcessIsNamed();
     void theLockOfAKilledProcessIsTakenOver();
+    void theLockThatADeadProcessIsGivingBackIsWaitedFor();
     void aLockThatNamesNobodyIsTakenOver_data();
     void aLockThatNamesNobodyIsTakenOver();
     void theLockOfAnotherComputerIsKept();
@@ -104,6 +111,33 @@ void tst_NxProjectLock::theLockOfAKilledProcessIsTakenOver()
     const auto store = NxProjectStore::open(m_path, {});
     QVERIFY2(store, qUtf8Printable(store.errorText()));
     QVERIFY2(!(*store)->isReadOnly(), qUtf8Printable((*store)->readOnlyReason()));
+}
+
+// The system closes the files of a killed process, and of what it started, one after the other.
+void tst_NxProjectLock::theLockThatADeadProcessIsGivingBackIsWaitedFor()
+{
+    QProcess dead;
+    dead.start(QStringLiteral("true"), QStringList());
+    QVERIFY(dead.waitForStarted());
+    const qint64 number = dead.processId();
+    QVERIFY(dead.waitForFinished());
+    writeFile(m_lockPath, QStringLiteral("%1\nbrevano\n%2\n\n\n")
+                              .arg(QString::number(number), QSysInfo::machineHostName())
+                              .toUtf8());
+    QFile held(m_lockPath);
+    QVERIFY(held.open(QIODevice::ReadWrite));
+    QCOMPARE(::flock(held.handle(), LOCK_EX | LOCK_NB), 0);
+    NxProjectLock lock(m_path);
+    QCOMPARE(int(lock.tryLock()), int(Answer::Taken));
+
+    NxQueue<bool> never;
+    std::thread system([&] {
+        (void)never.waitPop(std::chrono::milliseconds(50));
+        ::flock(held.handle(), LOCK_UN);
+    });
+    const Answer answer = lock.tryLock();
+    system.join();
+    QCOMPARE(int(answer), int(Answer::Ours));
 }
 
 void tst_NxProjectLock::aLockThatNamesNobodyIsTakenOver_data()
