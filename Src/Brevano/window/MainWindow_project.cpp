@@ -186,9 +186,9 @@ void MainWindow::rememberShown()
 void MainWindow::restoreCategory()
 {
     m_shownCategory = m_panel->binder()->items()->categoryType();
-    const QStringList expanded = m_memory->expandedFolders(m_holder->path(), m_shownCategory);
-    if (!expanded.isEmpty())
-        m_panel->tree()->setExpandedFolders(numbers(expanded));
+    const auto expanded = m_memory->expandedFolders(m_holder->path(), m_shownCategory);
+    if (expanded)
+        m_panel->tree()->setExpandedFolders(numbers(*expanded));
     m_memory->restoreHeader(columnsName(m_shownCategory), m_panel->view()->columnHeader());
 }
 

@@ -12,6 +12,7 @@
 #include <QTimer>
 
 #include <memory>
+#include <optional>
 
 class INxSettingsStore;
 class QHeaderView;
@@ -80,9 +81,10 @@ public:
                                  NXVBLMODEL::NxMediaCategoryType category) const;
     void setFolder(const QString &project, NXVBLMODEL::NxMediaCategoryType category,
                    const QString &folderId);
-    /// The ids of the folders that were open in the tree of a category.
-    [[nodiscard]] QStringList expandedFolders(const QString &project,
-                                              NXVBLMODEL::NxMediaCategoryType category) const;
+    /// The ids of the folders that were open in the tree of a category, none if all were folded;
+    /// no list when it is not known.
+    [[nodiscard]] std::optional<QStringList> expandedFolders(
+        const QString &project, NXVBLMODEL::NxMediaCategoryType category) const;
     void setExpandedFolders(const QString &project, NXVBLMODEL::NxMediaCategoryType category,
                             const QStringList &folderIds);
 

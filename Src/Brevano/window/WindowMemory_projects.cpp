@@ -146,16 +146,21 @@ void WindowMemory::setFolder(const QString &path, NxMediaCategoryType category,
     setProject(withEntry(project(path), FoldersField, category, folderId));
 }
 
-QStringList WindowMemory::expandedFolders(const QString &path, NxMediaCategoryType category) const
+std::optional<QStringList> WindowMemory::expandedFolders(const QString &path,
+                                                         NxMediaCategoryType category) const
 {
-    const QJsonArray stored =
-        project(path).value(ExpandedField).toObject().value(categoryKey(category)).toArray();
+    const QJsonValue stored =
+        project(path).value(ExpandedField).toObject().value(categoryKey(category));
+    if (!stored.isArray())
+        return std::nullopt;
     QStringList ids;
-    for (const QJsonValue &id : stored) {
+    const QJsonArray all = stored.toArray();
+    for (const QJsonValue &id : all) {
         if (id.isString())
             ids.append(id.toString());
     }
-    return ids;
+    const bool isDamaged = ids.isEmpty() && !all.isEmpty();
+    return isDamaged ? std::nullopt : std::make_optional(ids);
 }
 
 void WindowMemory::setExpandedFolders(const QString &path, NxMediaCategoryType category,

@@ -101,6 +101,7 @@ private Q_SLOTS:
     void columnsComeBack();
     void aMovedColumnThatClosesAtOnceComesBack();
     void theUsersPlaceInTheProjectComesBack();
+    void aTreeThatIsAllFoldedComesBackSo();
     void eachCategoryComesBack();
     void howMediaAreShownComesBack();
     void skinAndLanguageComeBack();
@@ -178,6 +179,18 @@ void tst_MainWindow_memory::theUsersPlaceInTheProjectComesBack()
     QVERIFY(folded != open);
     yard.restart();
     QCOMPARE(yard.tree()->expandedFolders(), folded);
+}
+
+void tst_MainWindow_memory::aTreeThatIsAllFoldedComesBackSo()
+{
+    Yard yard;
+    yard.pick(yard.section());
+    QTest::keyClick(yard.tree(), Qt::Key_Left);
+    QVERIFY(!yard.tree()->isExpanded(yard.tree()->currentIndex()));
+    const QString film = yard.window()->holder()->path();
+    yard.memory()->setExpandedFolders(film, NXVBLMODEL::mctMedia, {}); // The other section, too.
+    yard.restart();
+    QVERIFY(!yard.tree()->isExpanded(yard.tree()->currentIndex()));
 }
 
 void tst_MainWindow_memory::eachCategoryComesBack()

@@ -359,8 +359,11 @@ void tst_WindowMemory::openFoldersAreRemembered()
     const QStringList open{QStringLiteral("4"), QStringLiteral("äöü, \"x\"")};
     m_memory->setExpandedFolders(Film, mctMedia, open);
     m_memory->flush();
-    QCOMPARE(again()->expandedFolders(Film, mctMedia), open);
-    QCOMPARE(again()->expandedFolders(Film, mctAudio), QStringList());
+    QVERIFY(again()->expandedFolders(Film, mctMedia) == open);
+    QVERIFY(!again()->expandedFolders(Film, mctAudio));
+    m_memory->setExpandedFolders(Film, mctMedia, {}); // All of them are folded.
+    m_memory->flush();
+    QVERIFY(again()->expandedFolders(Film, mctMedia) == QStringList());
 }
 
 void tst_WindowMemory::onlyTheLatestProjectsAreKnown()
@@ -403,7 +406,7 @@ void tst_WindowMemory::spoiltProjectsCountAsNone()
     const auto after = again();
     QCOMPARE(after->category(Film), mctMedia);
     QCOMPARE(after->folder(Film, mctMedia), QString());
-    QCOMPARE(after->expandedFolders(Film, mctMedia), QStringList());
+    QVERIFY(!after->expandedFolders(Film, mctMedia));
     after->setFolder(Film, mctMedia, QStringLiteral("9"));
     after->flush();
     QCOMPARE(again()->folder(Film, mctMedia), QStringLiteral("9"));
