@@ -1,6 +1,8 @@
 // SPDX-FileCopyrightText: 2026 Brevano contributors
 // SPDX-License-Identifier: LGPL-2.1-or-later
 
+#include "Command.h"
+
 #include <Support/NxTestMain.h>
 
 #include <QDir>
@@ -61,6 +63,8 @@ private Q_SLOTS:
     void thereAreManyOfThem();
     void eachChangesOneLineOfTheSources_data();
     void eachChangesOneLineOfTheSources();
+    void eachFitsTheSourcesOfNow_data() { eachChangesOneLineOfTheSources_data(); }
+    void eachFitsTheSourcesOfNow();
     void theTableNamesThemAll();
 };
 
@@ -90,6 +94,20 @@ void tst_Mutants::eachChangesOneLineOfTheSources()
     QVERIFY2(target.match(patch).hasMatch(), "it changes something else than sources");
     QVERIFY2(linesWith(patch, QLatin1Char('-')) <= 1, "it takes out more than a line");
     QVERIFY2(linesWith(patch, QLatin1Char('+')) <= 1, "it puts in more than a line");
+}
+
+void tst_Mutants::eachFitsTheSourcesOfNow()
+{
+    QFETCH(QString, name);
+
+    const CommandResult result =
+        runCommand(QStringLiteral("patch"),
+                   {QStringLiteral("--dry-run"), QStringLiteral("--strip=1"),
+                    QStringLiteral("--directory"), QStringLiteral(NX_SOURCE_DIR),
+                    QStringLiteral("--input"),
+                    QStringLiteral(NX_SOURCE_DIR "/Tests/mutants/") + name});
+
+    QVERIFY2(result.code == 0, qPrintable(result.output + result.errors));
 }
 
 void tst_Mutants::theTableNamesThemAll()

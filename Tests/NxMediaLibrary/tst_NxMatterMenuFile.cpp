@@ -4,6 +4,7 @@
 #include "SettingYard.h"
 
 #include <NxCore/NxLogCapture.h>
+#include <NxMediaLibrary/setting/NxMatterMenuFile_p.h>
 #include <NxMediaLibrary/setting/NxMediaLibrarySetting.h>
 #include <NxVBLEngine/Support/NxAsNobody.h>
 
@@ -149,6 +150,7 @@ private Q_SLOTS:
     void whatIsNoFileIsLeftAlone_data();
     void whatIsNoFileIsLeftAlone();
     void linkIsWrittenThrough();
+    void aBatchIsWrittenWhenItEnds();
     void hugeFileIsLeftAlone();
     void largestFileIsRead();
     void valuesThatAreNoTextsAreLeftAlone_data();
@@ -460,6 +462,27 @@ void tst_NxMatterMenuFile::noFolderAtAllIsBorne()
     INxAppInfo::setInstance(m_yard.get());
     QCOMPARE(complaints, QString());
     QVERIFY(!QFileInfo::exists(QStringLiteral("/Brevano.ini")));
+}
+
+void tst_NxMatterMenuFile::aBatchIsWrittenWhenItEnds()
+{
+    NxMatterMenuFile file;
+    const QStringList keys{QStringLiteral("Media_View"), QStringLiteral("Audio_View")};
+    {
+        const NxMatterMenuFile::Batch outer(&file);
+        {
+            const NxMatterMenuFile::Batch inner(&file);
+            file.write(keys[0], QStringLiteral("ListView"));
+            file.write(keys[1], QStringLiteral("SmallThumbnailView"));
+        }
+        file.write(keys[0], QStringLiteral("MiddleThumbnailView"));
+        QCOMPARE(m_yard->iniText(), QByteArray());
+    }
+    QCOMPARE(m_yard->iniKeys(),
+             (QMap<QString, QString>{{keys[0], QStringLiteral("MiddleThumbnailView")},
+                                     {keys[1], QStringLiteral("SmallThumbnailView")}}));
+    file.write(keys[0], QStringLiteral("ListView"));
+    QCOMPARE(m_yard->iniKeys().value(keys[0]), QStringLiteral("ListView"));
 }
 
 NX_TEST_MAIN(tst_NxMatterMenuFile)

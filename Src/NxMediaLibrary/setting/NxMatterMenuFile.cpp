@@ -10,6 +10,8 @@
 #include <QFileInfo>
 #include <QSettings>
 
+#include <utility>
+
 namespace {
 
 const auto groupName = QStringLiteral("NMatterViewMenu");
@@ -46,12 +48,33 @@ QHash<QString, QString> NxMatterMenuFile::texts(const QStringList &keys)
 
 void NxMatterMenuFile::write(const QString &key, const QString &text)
 {
-    if (isBarredBy(readingTrouble()) || isBarredBy(NxIniFileGuard::writingTrouble(m_path)))
+    m_waiting.append({key, text});
+    if (m_batches == 0)
+        writeWaiting();
+}
+
+void NxMatterMenuFile::writeWaiting()
+{
+    const QVector<QPair<QString, QString>> texts = std::exchange(m_waiting, {});
+    if (texts.isEmpty() || isBarredBy(readingTrouble())
+        || isBarredBy(NxIniFileGuard::writingTrouble(m_path)))
         return;
     QSettings settings(m_path, QSettings::IniFormat);
     settings.beginGroup(groupName);
-    settings.setValue(key, text);
+    for (const auto &[key, text] : texts)
+        settings.setValue(key, text);
     settings.endGroup();
+}
+
+NxMatterMenuFile::Batch::Batch(NxMatterMenuFile *file) : m_file(file)
+{
+    ++m_file->m_batches;
+}
+
+NxMatterMenuFile::Batch::~Batch()
+{
+    if (--m_file->m_batches == 0)
+        m_file->writeWaiting();
 }
 
 QString NxMatterMenuFile::readingTrouble() const

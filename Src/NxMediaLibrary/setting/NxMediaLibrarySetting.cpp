@@ -240,6 +240,7 @@ void NxMediaLibrarySetting::GetMatterMenu(NxMediaCategoryType category, MatterMe
 
 void NxMediaLibrarySetting::SetViewType(NxMediaCategoryType category, NxMediaItemViewMode mode)
 {
+    const NxMatterMenuFile::Batch batch(m_file.get());
     if (change(category, &MatterMenu::viewType, mode, viewKind) && isThumbnail(mode))
         ChangeOtherMatterThumbnailView(category, mode);
 }
@@ -274,6 +275,7 @@ void NxMediaLibrarySetting::SetFilterType(NxMediaCategoryType category, NxMediaT
 
 void NxMediaLibrarySetting::SetMatterMenu(NxMediaCategoryType category, const MatterMenu &menu)
 {
+    const NxMatterMenuFile::Batch batch(m_file.get());
     SetViewType(category, menu.viewType);
     SetSortBy(category, menu.sortBy);
     SetSortByOrder(category, menu.sortByOrder);
@@ -290,6 +292,7 @@ void NxMediaLibrarySetting::Restore()
 {
     if (m_saved.isEmpty())
         return;
+    const NxMatterMenuFile::Batch batch(m_file.get());
     const MatterViewMenuState state = m_saved.takeLast();
     apply(this, state.filterTypes, &NxMediaLibrarySetting::SetFilterType);
     apply(this, state.viewTypes, &NxMediaLibrarySetting::SetViewType);
