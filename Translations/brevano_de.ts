@@ -563,12 +563,16 @@ Freie Software unter der GNU Lesser General Public License, Version 2.1 oder sp√
         <translation>Das Laufwerk antwortet nicht.</translation>
     </message>
     <message>
-        <source>The file cannot be opened.</source>
-        <translation>Die Datei kann nicht ge√∂ffnet werden.</translation>
-    </message>
-    <message>
         <source>The file cannot be read.</source>
         <translation>Die Datei kann nicht gelesen werden.</translation>
+    </message>
+    <message>
+        <source>There is no file of this name, but something else.</source>
+        <translation>Unter diesem Namen liegt keine Datei, sondern etwas anderes.</translation>
+    </message>
+    <message>
+        <source>You have no permission to read the file.</source>
+        <translation>Sie haben kein Recht, die Datei zu lesen.</translation>
     </message>
 </context>
 <context>

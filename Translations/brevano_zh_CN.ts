@@ -553,12 +553,16 @@ Free software under the GNU Lesser General Public License, version 2.1 or later.
         <translation>驱动器没有响应。</translation>
     </message>
     <message>
-        <source>The file cannot be opened.</source>
-        <translation>无法打开文件。</translation>
-    </message>
-    <message>
         <source>The file cannot be read.</source>
         <translation>无法读取文件。</translation>
+    </message>
+    <message>
+        <source>There is no file of this name, but something else.</source>
+        <translation>此名称对应的不是文件，而是其他内容。</translation>
+    </message>
+    <message>
+        <source>You have no permission to read the file.</source>
+        <translation>您没有读取该文件的权限。</translation>
     </message>
 </context>
 <context>

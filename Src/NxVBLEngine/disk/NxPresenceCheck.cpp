@@ -21,11 +21,11 @@ NxPresence presenceOf(const NxFileFacts &facts)
         NxPresence::Present,
         NxPresence::Missing,
         NxPresence::Unreadable,
-        NxPresence::Unreadable,
+        NxPresence::Denied,
         NxPresence::Unreachable,
     };
     if (facts.kind == NxFileKind::File && !facts.readable)
-        return NxPresence::Unreadable;
+        return NxPresence::Denied;
     return presences[size_t(facts.kind)];
 }
 

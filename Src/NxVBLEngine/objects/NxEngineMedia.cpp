@@ -36,12 +36,13 @@ bool isBelievable(qint64 time)
 }
 
 // By NxPresence.
-constexpr std::array<const char *, 5> ReasonsOfPresence = {
+constexpr std::array<const char *, 6> ReasonsOfPresence = {
     "",
     "",
     QT_TRANSLATE_NOOP("NxEngineMedia", "The file is missing."),
     QT_TRANSLATE_NOOP("NxEngineMedia", "The drive does not answer."),
-    QT_TRANSLATE_NOOP("NxEngineMedia", "The file cannot be opened."),
+    QT_TRANSLATE_NOOP("NxEngineMedia", "There is no file of this name, but something else."),
+    QT_TRANSLATE_NOOP("NxEngineMedia", "You have no permission to read the file."),
 };
 
 } // namespace

@@ -15,7 +15,8 @@ enum class NxPresence : quint8 {
     Present,
     Missing, ///< No file of this path.
     Unreachable, ///< The disk or network drive does not answer.
-    Unreadable, ///< There, but it cannot be opened.
+    Unreadable, ///< Something that is no file has its name.
+    Denied, ///< There, but we have no right to read it.
 };
 
 /// A file of the user that stands in the project.

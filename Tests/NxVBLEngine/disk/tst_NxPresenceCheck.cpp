@@ -59,7 +59,7 @@ class tst_NxPresenceCheck : public QObject
 private Q_SLOTS:
     void everyKindHasItsPresence_data();
     void everyKindHasItsPresence();
-    void filesWithoutRightsAreUnreadable();
+    void filesWithoutRightsAreDenied();
     void aMissingFolderCostsOneLookForAllItsFiles();
     void theHighestMissingFolderIsFound();
     void movedFilesAreFoundBesideTheProject();
@@ -77,7 +77,7 @@ void tst_NxPresenceCheck::everyKindHasItsPresence_data()
     QTest::newRow("file") << NxFileKind::File << NxPresence::Present;
     QTest::newRow("folder in its place") << NxFileKind::Folder << NxPresence::Missing;
     QTest::newRow("pipe in its place") << NxFileKind::Special << NxPresence::Unreadable;
-    QTest::newRow("hidden by rights") << NxFileKind::Denied << NxPresence::Unreadable;
+    QTest::newRow("hidden by rights") << NxFileKind::Denied << NxPresence::Denied;
     QTest::newRow("disk error") << NxFileKind::Failed << NxPresence::Unreachable;
 }
 
@@ -95,7 +95,7 @@ void tst_NxPresenceCheck::everyKindHasItsPresence()
     QVERIFY(answer.state.exists);
 }
 
-void tst_NxPresenceCheck::filesWithoutRightsAreUnreadable()
+void tst_NxPresenceCheck::filesWithoutRightsAreDenied()
 {
     MadeUpDisk made;
     made.add("/f", NxFileKind::Folder);
@@ -104,7 +104,7 @@ void tst_NxPresenceCheck::filesWithoutRightsAreUnreadable()
     NxDiskPulse pulse;
     const NxFolderAnswer answer = NxPresenceCheck::answer(
         question(QStringLiteral("/f"), {QStringLiteral("a")}), made.disk(), pulse);
-    QCOMPARE(answer.files.first().presence, NxPresence::Unreadable);
+    QCOMPARE(answer.files.first().presence, NxPresence::Denied);
 }
 
 void tst_NxPresenceCheck::aMissingFolderCostsOneLookForAllItsFiles()

@@ -330,7 +330,7 @@ void tst_NxPresenceKeeper::theAnswererKnowsOnlyMediaOfTheProject()
     const QVector<std::pair<NxPresence, bool>> table{
         {NxPresence::Unknown, true},     {NxPresence::Present, true},
         {NxPresence::Missing, false},    {NxPresence::Unreachable, false},
-        {NxPresence::Unreadable, true},
+        {NxPresence::Unreadable, true},  {NxPresence::Denied, true},
     };
     for (const auto &[presence, exists] : table) {
         f.memory.setPresence(media, presence);

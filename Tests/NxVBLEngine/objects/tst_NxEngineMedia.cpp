@@ -291,22 +291,29 @@ private Q_SLOTS:
     void presenceDecidesWhetherItIsUnavailable_data()
     {
         QTest::addColumn<int>("presence");
-        QTest::addColumn<bool>("unavailable");
-        QTest::newRow("not looked at yet") << int(NxPresence::Unknown) << false;
-        QTest::newRow("there") << int(NxPresence::Present) << false;
-        QTest::newRow("missing") << int(NxPresence::Missing) << true;
-        QTest::newRow("drive away") << int(NxPresence::Unreachable) << true;
-        QTest::newRow("no permission") << int(NxPresence::Unreadable) << true;
+        QTest::addColumn<QString>("reason");
+        QTest::newRow("not looked at yet") << int(NxPresence::Unknown) << QString();
+        QTest::newRow("there") << int(NxPresence::Present) << QString();
+        QTest::newRow("missing") << int(NxPresence::Missing)
+                                 << QStringLiteral("The file is missing.");
+        QTest::newRow("drive away") << int(NxPresence::Unreachable)
+                                    << QStringLiteral("The drive does not answer.");
+        QTest::newRow("a pipe in its place")
+            << int(NxPresence::Unreadable)
+            << QStringLiteral("There is no file of this name, but something else.");
+        QTest::newRow("no permission")
+            << int(NxPresence::Denied)
+            << QStringLiteral("You have no permission to read the file.");
     }
 
     void presenceDecidesWhetherItIsUnavailable()
     {
         QFETCH(int, presence);
-        QFETCH(bool, unavailable);
+        QFETCH(QString, reason);
         NxEngineMedia media((NxMediaRecord()));
         media.setPresence(NxPresence(presence));
-        QCOMPARE(media.isUnavailable(), unavailable);
-        QCOMPARE(media.unavailableReason().isEmpty(), !unavailable);
+        QCOMPARE(media.isUnavailable(), !reason.isEmpty());
+        QCOMPARE(media.unavailableReason(), reason);
     }
 };
 
