@@ -80,3 +80,8 @@ set(cause "The program that reads footage is not installed")
 if(NOT code EQUAL 3 OR NOT output MATCHES "${cause}" OR NOT output MATCHES "1 media added")
     message(FATAL_ERROR "Importing without the worker ended with ${code}:\n${output}")
 endif()
+execute_process(COMMAND ${brevano} reread ${project}
+    RESULT_VARIABLE code OUTPUT_VARIABLE output ERROR_VARIABLE output)
+if(NOT code EQUAL 3 OR NOT output MATCHES "words.srt: The file was not read")
+    message(FATAL_ERROR "Reading again without the worker ended with ${code}:\n${output}")
+endif()

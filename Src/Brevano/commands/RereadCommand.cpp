@@ -42,14 +42,14 @@ QList<INxAbstractMediaItem *> mediaToBeRead(const ProjectSession &session)
     return found;
 }
 
-/// The first reason there is.
+/// The first reason there is; without one nobody could read it.
 QString reasonOf(const NxFootageState &state)
 {
     for (const QString &reason : {state.reason, state.coverReason, state.stripReason}) {
         if (!reason.isEmpty())
             return reason;
     }
-    return {};
+    return QStringLiteral("The file was not read.");
 }
 
 } // namespace

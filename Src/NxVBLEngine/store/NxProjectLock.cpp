@@ -24,15 +24,15 @@ QString translated(const char *text)
 }
 
 /// False only if there is surely no such process on this computer.
-bool mayRun(qint64 process, const QString &host)
+bool mayRun([[maybe_unused]] qint64 process, const QString &host)
 {
+    if (host != QSysInfo::machineHostName())
+        return true;
 #ifdef Q_OS_UNIX
-    if (host == QSysInfo::machineHostName())
-        return ::kill(pid_t(process), 0) == 0 || errno != ESRCH;
-#endif
-    Q_UNUSED(process)
-    Q_UNUSED(host)
+    return ::kill(pid_t(process), 0) == 0 || errno != ESRCH;
+#else
     return true;
+#endif
 }
 
 } // namespace
