@@ -8,17 +8,23 @@
 namespace {
 
 constexpr char path[] = "PATH";
+constexpr char cacheHome[] = "XDG_CACHE_HOME";
 
 } // namespace
 
-FootageYard::FootageYard() : m_path(qgetenv(path)), m_yard(Yard::Clips::Real)
+FootageYard::FootageYard()
+    : m_path(qgetenv(path)),
+      m_cacheHome(qgetenv(cacheHome)),
+      m_yard(Yard::Clips::Real)
 {
+    qputenv(cacheHome, QFile::encodeName(m_yard.folder().makeDir(QStringLiteral("cache"))));
     qputenv(path, QFile::encodeName(m_yard.folder().makeDir(QStringLiteral("no programs"))));
 }
 
 FootageYard::~FootageYard()
 {
     qputenv(path, m_path);
+    qputenv(cacheHome, m_cacheHome);
 }
 
 ProgramResult FootageYard::imported(const QString &file) const

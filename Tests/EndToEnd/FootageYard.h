@@ -7,7 +7,8 @@
 #include <Footage/NxFootageRecipe.h>
 
 /// A project of real footage. While this lives, every program is started with a PATH that is
-/// empty: the tools by which the footage was made are out of its reach.
+/// empty, so that the tools by which the footage was made are out of its reach, and with a cache
+/// of its own, so that no earlier run has made its pictures.
 class FootageYard
 {
 public:
@@ -28,5 +29,6 @@ private:
     Q_DISABLE_COPY_MOVE(FootageYard)
 
     const QByteArray m_path;
+    const QByteArray m_cacheHome;
     const Yard m_yard;
 };

@@ -100,7 +100,7 @@ void tst_HostileFootage::aFolderWithoutPermissionSaysSo()
     const QString path = m_project->put("avc.mp4", QStringLiteral("shut.mp4"));
     QVERIFY(::chmod(QFile::encodeName(path).constData(), 0) == 0);
     const QList<NxEngineMedia *> media = m_project->add({path});
-    if (::geteuid() == 0) {
+    if (::access(QFile::encodeName(path).constData(), R_OK) == 0) {
         // Nothing is shut for root.
         QTRY_COMPARE_WITH_TIMEOUT(media.at(0)->readState(), NxReadState::Read, Patience);
         return;

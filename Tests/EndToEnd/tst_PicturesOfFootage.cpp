@@ -8,6 +8,8 @@
 #include <Support/NxFootageGuard.h>
 #include <Support/NxTestMain.h>
 
+#include <QElapsedTimer>
+#include <QFile>
 #include <QImage>
 #include <QSet>
 #include <QtTest>
@@ -115,6 +117,8 @@ private Q_SLOTS:
     void nobodyTouchedTheFootage();
 
 private:
+    /// What is wrong with a strip; empty when nothing is.
+    [[nodiscard]] static QString faultOfStrip(const NxFootageRecipe &recipe, const QImage &strip);
     [[nodiscard]] QJsonObject info(const NxFootageRecipe &recipe) const;
     [[nodiscard]] QImage picture(const NxFootageRecipe &recipe, const char *kind) const;
 
@@ -199,8 +203,25 @@ void tst_PicturesOfFootage::stripsShowTenMoments()
     QFETCH(QString, name);
 
     const NxFootageRecipe &recipe = NxFootageRecipes::named(name);
-    const QImage strip = picture(recipe, "strip");
-    QCOMPARE(strip.size(), QSize(frameSize.width(), NxPictureFile::StripHeight));
+    QString fault = faultOfStrip(recipe, picture(recipe, "strip"));
+    constexpr int tries = 20;
+    for (int i = 0; i < tries && !fault.isEmpty(); ++i) {
+        // Its maker takes no longer than that, and on a busy machine it does not come far in it.
+        constexpr int longestPass = 1'500; // ms
+        QVERIFY(QFile::remove(info(recipe).value(QLatin1String("strip")).toString()));
+        QElapsedTimer clock;
+        clock.start();
+        fault = faultOfStrip(recipe, picture(recipe, "strip"));
+        if (!clock.hasExpired(longestPass))
+            break;
+    }
+    QCOMPARE(fault, QString());
+}
+
+QString tst_PicturesOfFootage::faultOfStrip(const NxFootageRecipe &recipe, const QImage &strip)
+{
+    if (strip.size() != QSize(frameSize.width(), NxPictureFile::StripHeight))
+        return QStringLiteral("it is %1 high").arg(strip.height());
     QSet<int> numbers;
     for (int row = 0; row < NxPictureFile::Moments * NxPictureFile::RowsPerMoment; ++row) {
         const int moment = row / NxPictureFile::RowsPerMoment;
@@ -208,15 +229,16 @@ void tst_PicturesOfFootage::stripsShowTenMoments()
         const int number = numberIn(strip.copy(QRect(corner, frameSize)), recipe.truth);
         const qint64 us = NxPictureFile::momentUs(moment, recipe.truth.durationUs);
         const Allowed allowed = allowedAt(recipe, us);
-        const QString said = QStringLiteral("row %1 shows %2, not %3 to %4")
-                                 .arg(row)
-                                 .arg(number)
-                                 .arg(allowed.first)
-                                 .arg(allowed.last);
-        QVERIFY2(number >= allowed.first && number <= allowed.last, qPrintable(said));
+        if (number < allowed.first || number > allowed.last)
+            return QStringLiteral("row %1 shows %2, not %3 to %4")
+                .arg(row)
+                .arg(number)
+                .arg(allowed.first)
+                .arg(allowed.last);
         numbers.insert(number);
     }
-    QCOMPARE(numbers.size(), NxPictureFile::Moments);
+    return numbers.size() == NxPictureFile::Moments ? QString()
+                                                    : QStringLiteral("moments show the same");
 }
 
 void tst_PicturesOfFootage::soundShowsItsCoverArtOrItself_data()

@@ -26,10 +26,12 @@ constexpr Codec avcLong{"h264", "yuv420p", 8, longGroup,
                         "-sc_threshold 0 -g 250 -keyint_min 250"};
 constexpr Codec hevc{"hevc", "yuv420p", 8, shortGroup,
                      "-c:v libx265 -preset ultrafast -x265-params "
-                     "keyint=12:min-keyint=12:scenecut=0:bframes=2:open-gop=0:log-level=error"};
+                     "keyint=12:min-keyint=12:scenecut=0:bframes=2:open-gop=0:log-level=error:"
+                     "pools=none:frame-threads=1"};
 constexpr Codec hevc10{"hevc", "yuv420p10le", 10, longGroup,
                        "-c:v libx265 -preset ultrafast -tag:v hvc1 -x265-params "
-                       "keyint=250:scenecut=0:bframes=2:log-level=error"};
+                       "keyint=250:scenecut=0:bframes=2:log-level=error:"
+                       "pools=none:frame-threads=1"};
 constexpr Codec vp9{"vp9", "yuv420p", 8, shortGroup,
                     "-c:v libvpx-vp9 -deadline realtime -cpu-used 8 -lag-in-frames 0 "
                     "-auto-alt-ref 0 -crf 34 -b:v 0 -g 12 -keyint_min 12"};

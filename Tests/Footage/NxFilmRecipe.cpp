@@ -27,6 +27,8 @@ NxFilmRecipe::NxFilmRecipe(const char *name, int frames, NxRational rate, const 
                            QSize size)
     : m_codec(words(codec.arguments))
 {
+    // Encoders share their work out by the processors that they find, and their files show it.
+    m_codec += QStringList{QStringLiteral("-threads"), QStringLiteral("1")};
     m_recipe.name = QLatin1String(name);
     m_recipe.frames = NxNumberedFrames(size, frames, rate);
     m_codec += QStringList{QStringLiteral("-pix_fmt"), QLatin1String(codec.pixelFormat)};

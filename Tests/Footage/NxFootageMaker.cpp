@@ -8,6 +8,7 @@
 #include <QTemporaryDir>
 #include <QThread>
 
+#include <algorithm>
 #include <atomic>
 #include <mutex>
 #include <thread>
@@ -107,7 +108,8 @@ NxResult<void> makeAll(const std::vector<NxFootageRecipe> &recipes, const QStrin
         }
     };
     std::vector<std::thread> threads;
-    for (int thread = 0; thread < QThread::idealThreadCount(); ++thread)
+    constexpr int most = 4; // Memory may be scarcer than processors.
+    for (int thread = 0; thread < std::min(QThread::idealThreadCount(), most); ++thread)
         threads.emplace_back(work);
     for (std::thread &thread : threads)
         thread.join();

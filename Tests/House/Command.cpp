@@ -8,7 +8,7 @@
 CommandResult runCommand(const QString &program, const QStringList &arguments,
                          const QString &folder, const QProcessEnvironment &environment)
 {
-    constexpr int patienceMs = 120000;
+    constexpr int patienceMs = 600000;
     QProcess process;
     process.setStandardInputFile(QProcess::nullDevice());
     process.setWorkingDirectory(folder);

@@ -10,7 +10,7 @@
 /// How a finished program ended and what it said.
 struct CommandResult
 {
-    /// Exit code; -1 when the program could not be started, crashed or took over two minutes.
+    /// Exit code; -1 when the program could not be started, crashed or took over ten minutes.
     int code = -1;
     QString output;
     QString errors;

@@ -77,9 +77,12 @@ CommandResult ScriptYard::runSetup(const QString &commands, const QString &answe
         return runCommand(QStringLiteral("bash"), {QStringLiteral("-c"), whole}, userFolder(),
                           environment());
 
+    // What is said goes to a file: script(1) loses what comes just before the end.
+    const QString said = quoted(folder() + QStringLiteral("/said"));
+    const QString inner = QStringLiteral("bash -c %1 >%2 2>&1").arg(quoted(whole), said);
     const QString onTerminal =
-        QStringLiteral("printf '%s\\n' %1 | script -qefc %2 /dev/null")
-            .arg(quoted(answer), quoted(QStringLiteral("bash -c ") + quoted(whole)));
+        QStringLiteral("printf '%s\\n' %1 | script -qefc %2 /dev/null; code=$?; cat %3; exit $code")
+            .arg(quoted(answer), quoted(inner), said);
     return runCommand(QStringLiteral("bash"), {QStringLiteral("-c"), onTerminal}, userFolder(),
                       environment());
 }
@@ -114,5 +117,7 @@ QProcessEnvironment ScriptYard::environment() const
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
     const QString path = environment.value(QStringLiteral("PATH"));
     environment.insert(QStringLiteral("PATH"), folder() + QStringLiteral("/fake:") + path);
+    environment.insert(QStringLiteral("SHELL"), QStringLiteral("/bin/sh")); // Of script(1).
+    environment.remove(QStringLiteral("NX_PACKAGE_LIST"));
     return environment;
 }

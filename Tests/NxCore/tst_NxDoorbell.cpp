@@ -6,6 +6,7 @@
 #include <Support/NxTestMain.h>
 
 #include <QCoreApplication>
+#include <QScopeGuard>
 #include <QTest>
 #include <QThread>
 
@@ -89,6 +90,10 @@ void tst_NxDoorbell::losesNoItem()
     int received = 0;
     NxDoorbell bell([&] { received += int(queue.drain().size()); });
     std::vector<std::thread> threads;
+    const auto joining = qScopeGuard([&threads] {
+        for (std::thread &thread : threads)
+            thread.join();
+    });
     for (int p = 0; p < producers; ++p) {
         threads.emplace_back([&queue, rope = bell.rope()] {
             for (int i = 0; i < each; ++i) {
@@ -98,8 +103,6 @@ void tst_NxDoorbell::losesNoItem()
         });
     }
     QTRY_COMPARE(received, producers * each);
-    for (std::thread &thread : threads)
-        thread.join();
 }
 
 void tst_NxDoorbell::mayBeDestroyedByItsHandler()
@@ -141,15 +144,16 @@ void tst_NxDoorbell::mayBeRungWhileItIsDestroyed()
             ++rings;
         }
     });
+    const auto ending = qScopeGuard([&] {
+        stop = true;
+        ringer.join();
+    });
     for (int i = 0; i < 300; ++i) {
         NxDoorbell bell([] {});
         ropes.push(bell.rope());
         QCoreApplication::processEvents();
     }
     QTRY_VERIFY(rings > 0);
-    stop = true;
-    ringer.join();
-    QCoreApplication::processEvents();
 }
 
 void tst_NxDoorbell::ropeWithoutABellRingsNothing()

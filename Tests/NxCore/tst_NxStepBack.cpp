@@ -40,9 +40,9 @@ void tst_NxStepBack::nobodyElseDoes()
 
 void tst_NxStepBack::noThreadComesForward()
 {
-    constexpr int further = 12;
+    const int further = NxThreadNiceness::atLeast(12);
     int found = 0;
-    std::thread([&found] {
+    std::thread([&found, further] {
         QCOMPARE(::setpriority(PRIO_PROCESS, id_t(gettid()), further), 0);
         nxStepBack();
         found = NxThreadNiceness::own();

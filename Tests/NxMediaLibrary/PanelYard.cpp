@@ -154,6 +154,13 @@ void PanelYard::lookAtFiles()
     m_engine.refreshExistence();
 }
 
+void PanelYard::settleFiles()
+{
+    panel->hide();
+    lookAtFiles();
+    panel->show();
+}
+
 INxAbstractMedia *PanelYard::media(const QString &name) const
 {
     const QList<INxAbstractMedia *> all = section()->items(true, true);

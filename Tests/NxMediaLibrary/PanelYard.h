@@ -58,6 +58,9 @@ public:
     INxFolderMedia *addFolder(const QString &name) const;
     /// Has the disk looked at, so that the list knows which files are gone.
     void lookAtFiles();
+    /// The same before anybody paints the rows: a file that nobody has looked for is one that
+    /// workers are asked for, and what they answer stands in the project.
+    void settleFiles();
     /// Null when nobody is called so.
     [[nodiscard]] INxAbstractMedia *media(const QString &name) const;
 

@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: 2026 Brevano contributors
 // SPDX-License-Identifier: LGPL-2.1-or-later
+#include <Support/NxSeeds.h>
 #include <Support/NxTestMain.h>
 
-#include <QRandomGenerator>
 #include <QTest>
 
 #include "ItemSession.h"
@@ -73,17 +73,6 @@ QString storyOf(const ItemSession::Yard &yard, const ItemSession::Events &events
     return session.story().join(QLatin1Char('\n')) + QLatin1Char('\n') + difference;
 }
 
-void addSeeds(int fixed)
-{
-    QTest::addColumn<quint32>("seed");
-    for (quint32 seed = 1; seed <= quint32(fixed); ++seed)
-        QTest::addRow("seed %u", seed) << seed;
-    bool isGiven = false;
-    const quint32 given = qEnvironmentVariable("NX_ITEM_SESSION_SEED").toUInt(&isGiven);
-    const quint32 fresh = isGiven ? given : QRandomGenerator::system()->generate();
-    QTest::addRow("fresh seed %u", fresh) << fresh;
-}
-
 void compareSession(const ItemSession::Yard &yard, quint32 seed, int count)
 {
     ItemSession::Events events = eventsOf(seed, count);
@@ -112,7 +101,7 @@ private Q_SLOTS:
 
 void tst_ItemModelSessions::showsAndTellsWhatThePlainModelDoes_data()
 {
-    addSeeds(FixedSeeds);
+    nxAddSeeds(FixedSeeds);
 }
 
 void tst_ItemModelSessions::showsAndTellsWhatThePlainModelDoes()
@@ -123,7 +112,7 @@ void tst_ItemModelSessions::showsAndTellsWhatThePlainModelDoes()
 
 void tst_ItemModelSessions::doesSoInALargeLibrary_data()
 {
-    addSeeds(FixedLargeSeeds);
+    nxAddSeeds(FixedLargeSeeds);
 }
 
 void tst_ItemModelSessions::doesSoInALargeLibrary()

@@ -31,7 +31,8 @@ struct Stand
     {
         const int before = paths.size();
         loader.load(path);
-        if (!QTest::qWaitFor([&] { return paths.size() > before; }) || paths.last() != path)
+        const auto hasCome = [&] { return paths.size() > before; };
+        if (!QTest::qWaitFor(hasCome, NxPatience) || paths.last() != path)
             qFatal("%s did not come", qUtf8Printable(path));
         return last;
     }

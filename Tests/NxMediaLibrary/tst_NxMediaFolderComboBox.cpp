@@ -281,7 +281,7 @@ void tst_NxMediaFolderComboBox::theMouseChoosesInThePopup()
         QTest::mouseClick(list->viewport(), Qt::LeftButton, Qt::NoModifier, place);
         return !stand.picked.isEmpty();
     };
-    QVERIFY(QTest::qWaitFor(click));
+    QVERIFY(QTest::qWaitFor(click, NxPatience));
     QCOMPARE(stand.take(), lines({"Hills"}));
     QCOMPARE(stand.box()->currentIndex(), 4);
 }

@@ -7,6 +7,7 @@
 #include <NxVBLModel/INxExtraMedia.h>
 #include <NxVBLModel/INxGroupMedia.h>
 
+#include <Support/NxSeeds.h>
 #include <Support/NxTestMain.h>
 
 #include <QRandomGenerator>
@@ -472,11 +473,7 @@ void tst_NxMediaItemFilter::copiesReadTheSameSettings()
 
 void tst_NxMediaItemFilter::doesWhatThePlainRulesSay_data()
 {
-    QTest::addColumn<quint32>("seed");
-    for (quint32 seed = 1; seed <= 20; ++seed)
-        QTest::addRow("seed %u", seed) << seed;
-    const quint32 fresh = QRandomGenerator::system()->generate();
-    QTest::addRow("fresh seed %u", fresh) << fresh;
+    nxAddSeeds(20);
 }
 
 void tst_NxMediaItemFilter::doesWhatThePlainRulesSay()

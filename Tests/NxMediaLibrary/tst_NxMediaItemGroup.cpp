@@ -4,6 +4,7 @@
 
 #include <NxVBLModel/INxGroupMedia.h>
 #include <NxVBLModel/NxMediaRef.h>
+#include <Support/NxSeeds.h>
 #include <Support/NxTestMain.h>
 
 #include <QRandomGenerator>
@@ -372,11 +373,11 @@ void tst_NxMediaItemGroup::cutsDaysInLocalTime()
     item.created = QDateTime(QDate(2024, 6, 30), QTime(22, 30), Qt::UTC);
     Groups groups;
     {
-        const Zone zone("Europe/Berlin");
+        const Zone zone("CET-1CEST,M3.5.0,M10.5.0/3");
         groups.make({&item}, gbDateCreated);
         QCOMPARE(groups.titles(), QStringList{QStringLiteral("2024/07/01")});
     }
-    const Zone zone("UTC");
+    const Zone zone("UTC0");
     groups.make({&item}, gbDateCreated);
     QCOMPARE(groups.titles(), QStringList{QStringLiteral("2024/06/30")});
 }
@@ -651,11 +652,7 @@ Items pointers(std::vector<ScriptedItem> &items)
 
 void addSeeds()
 {
-    QTest::addColumn<quint32>("seed");
-    for (quint32 seed = 1; seed <= 20; ++seed)
-        QTest::addRow("seed %u", seed) << seed;
-    const quint32 fresh = QRandomGenerator::global()->generate();
-    QTest::addRow("fresh seed %u", fresh) << fresh;
+    nxAddSeeds(20);
 }
 
 } // namespace

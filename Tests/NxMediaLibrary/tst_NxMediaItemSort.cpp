@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include <NxMediaLibrary/NxMediaDataModel/NxMediaItemSort.h>
 
+#include <Support/NxSeeds.h>
 #include <Support/NxTestMain.h>
 
 #include <QFile>
@@ -456,11 +457,7 @@ void tst_NxMediaItemSort::asksTheItemWhenThereIsNoInformation()
 
 void tst_NxMediaItemSort::agreesWithThePlainestSort_data()
 {
-    QTest::addColumn<quint32>("seed");
-    for (quint32 seed = 1; seed <= 20; ++seed)
-        QTest::addRow("seed %u", seed) << seed;
-    const quint32 fresh = QRandomGenerator::global()->generate();
-    QTest::addRow("fresh seed %u", fresh) << fresh;
+    nxAddSeeds(20);
 }
 
 void tst_NxMediaItemSort::agreesWithThePlainestSort()

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include <NxMediaLibrary/NxMediaDataModel/NxMediaTreeModel.h>
 
+#include <Support/NxSeeds.h>
 #include <Support/NxTestMain.h>
 
 #include <QDataStream>
@@ -188,12 +189,7 @@ private Q_SLOTS:
 
     void randomDataMayBeDropped_data()
     {
-        QTest::addColumn<quint32>("seed");
-        for (quint32 seed = 1; seed <= 8; ++seed)
-            QTest::addRow("seed %u", seed) << seed;
-        const quint32 fresh = QRandomGenerator::system()->generate();
-        qInfo("fresh seed %u", fresh);
-        QTest::addRow("fresh seed %u", fresh) << fresh;
+        nxAddSeeds(8);
     }
 
     void randomDataMayBeDropped()

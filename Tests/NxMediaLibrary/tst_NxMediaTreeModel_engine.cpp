@@ -6,6 +6,7 @@
 #include <NxVBLModel/INxFolderMediaManager.h>
 #include <NxVBLModel/INxMediaManager.h>
 
+#include <Support/NxSeeds.h>
 #include <Support/NxTestMain.h>
 
 #include <QRandomGenerator>
@@ -139,12 +140,7 @@ private Q_SLOTS:
 
     void longWorkOnFoldersIsFollowed_data()
     {
-        QTest::addColumn<quint32>("seed");
-        for (quint32 seed = 1; seed <= 4; ++seed)
-            QTest::addRow("seed %u", seed) << seed;
-        const quint32 fresh = QRandomGenerator::system()->generate();
-        qInfo("fresh seed %u", fresh);
-        QTest::addRow("fresh seed %u", fresh) << fresh;
+        nxAddSeeds(4);
     }
 
     void longWorkOnFoldersIsFollowed()

@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: 2026 Brevano contributors
 // SPDX-License-Identifier: LGPL-2.1-or-later
+#include <Support/NxSeeds.h>
 #include <Support/NxTestMain.h>
 
-#include <QRandomGenerator>
 #include <QtTest>
 
 #include <algorithm>
@@ -27,12 +27,7 @@ class tst_NxMediaTreeModel_random : public QObject
 private Q_SLOTS:
     void manyEventsAreFollowed_data()
     {
-        QTest::addColumn<quint32>("seed");
-        for (quint32 seed = 1; seed <= Seeds; ++seed)
-            QTest::addRow("seed %u", seed) << seed;
-        const quint32 fresh = QRandomGenerator::system()->generate();
-        qInfo("fresh seed %u", fresh);
-        QTest::addRow("fresh seed %u", fresh) << fresh;
+        nxAddSeeds(Seeds);
     }
 
     void manyEventsAreFollowed()

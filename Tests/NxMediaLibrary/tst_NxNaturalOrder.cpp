@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include <NxMediaLibrary/NxMediaDataModel/NxNaturalOrder.h>
 
+#include <Support/NxSeeds.h>
 #include <Support/NxTestMain.h>
 
 #include <QRandomGenerator>
@@ -405,11 +406,7 @@ void tst_NxNaturalOrder::ordersLongNamesByTheSameRules()
 
 void tst_NxNaturalOrder::agreesWithPairwiseComparison_data()
 {
-    QTest::addColumn<quint32>("seed");
-    for (quint32 seed = 1; seed <= 20; ++seed)
-        QTest::addRow("seed %u", seed) << seed;
-    const quint32 fresh = QRandomGenerator::global()->generate();
-    QTest::addRow("fresh seed %u", fresh) << fresh;
+    nxAddSeeds(20);
 }
 
 void tst_NxNaturalOrder::agreesWithPairwiseComparison()

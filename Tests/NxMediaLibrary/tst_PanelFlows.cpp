@@ -30,7 +30,11 @@ namespace {
 /// Five media in the project, listed as a, b, c, d, e.
 struct FiveMedia : PanelYard
 {
-    FiveMedia() { add(lines({"c.mov", "a.mov", "e.jpg", "b.wav", "d.jpg"})); }
+    FiveMedia()
+    {
+        add(lines({"c.mov", "a.mov", "e.jpg", "b.wav", "d.jpg"}));
+        settleFiles();
+    }
 
     /// Selects from b to d.
     void selectThree() const

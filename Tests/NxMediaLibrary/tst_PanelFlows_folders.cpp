@@ -36,6 +36,7 @@ struct TwoDays : PanelYard
         takes = first->childFolder(0);
         add(lines({"take.mov"}), takes);
         panel->tree()->expandAll();
+        settleFiles();
     }
 
     INxFolderMedia *const first = addFolder(QStringLiteral("Day 1")); // Not owned, like the others.

@@ -3,10 +3,10 @@
 #include <NxVBLModel/INxMediaImporter.h>
 
 #include <Support/NxTempDir.h>
+#include <Support/NxSeeds.h>
 #include <Support/NxTestMain.h>
 
 #include <QHash>
-#include <QRandomGenerator>
 #include <QTest>
 
 #include <algorithm>
@@ -133,11 +133,7 @@ private:
 private Q_SLOTS:
     void everyStepComesBackExactly_data()
     {
-        QTest::addColumn<quint32>("seed");
-        for (quint32 seed = 1; seed <= Seeds; ++seed)
-            QTest::addRow("seed %u", seed) << seed;
-        const quint32 fresh = QRandomGenerator::system()->generate();
-        QTest::addRow("fresh seed %u", fresh) << fresh;
+        nxAddSeeds(Seeds);
     }
 
     void everyStepComesBackExactly()

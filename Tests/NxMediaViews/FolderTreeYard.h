@@ -21,6 +21,7 @@
 #include <NxVBLModel/NxMediaEngineDoor.h>
 #include <NxVBLModel/NxMediaIndex.h>
 
+#include <Support/NxPatience.h>
 #include <Support/NxTempDir.h>
 
 #include <QApplication>

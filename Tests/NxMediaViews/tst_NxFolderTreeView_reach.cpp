@@ -89,6 +89,7 @@ void tst_NxFolderTreeView_reach::lettersLeadToNames()
 {
     QFETCH(QString, typed);
     QFETCH(QString, found);
+    QApplication::setKeyboardInputInterval(NxPatience); // However slowly the letters come.
     const FolderTreeYard yard;
     for (const QChar &letter : typed)
         yard.tree->keyboardSearch(letter);

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #pragma once
 
+#include <Support/NxPatience.h>
+
 #include <QApplication>
 #include <QKeySequence>
 #include <QPointer>
@@ -51,11 +53,11 @@ private:
         const auto hasKeys = [&dialog] {
             return dialog && QApplication::focusWindow() == dialog->windowHandle();
         };
-        if (!QTest::qWaitFor(hasKeys) || QApplication::activeModalWidget() != dialog)
+        if (!QTest::qWaitFor(hasKeys, NxPatience) || QApplication::activeModalWidget() != dialog)
             qCritical("the dialog lets the user go on elsewhere");
         m_deed(*dialog);
         // A button that was pressed by its letter stays down for a moment.
-        if (!QTest::qWaitFor([&dialog] { return !dialog || !dialog->isVisible(); })) {
+        if (!QTest::qWaitFor([&dialog] { return !dialog || !dialog->isVisible(); }, NxPatience)) {
             qCritical("the dialog was left open");
             dialog->reject();
         }

@@ -27,6 +27,8 @@ const char *const platformNoise[] = {
     "This plugin does not support ",
     // The offscreen platform has no fonts of its own, only fontconfig's.
     "QFontDatabase: Cannot find font directory",
+    // What all programs of a user may watch together is limited.
+    "inotify_add_watch(",
 };
 
 struct State

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <Support/NxObservedTest.h>
+#include <Support/NxPatience.h>
 #include <Support/NxTestHome.h>
 #include <Support/NxTestLog.h>
 

@@ -9,6 +9,7 @@
 #include <QFile>
 #include <QTest>
 
+#include <filesystem>
 #include <functional>
 
 using Meddle = std::function<void(const NxTempDir &)>;
@@ -78,6 +79,10 @@ void tst_NxFootageGuard::noticesWhatChanged()
     const NxTempDir dir;
     setModified(dir.write(QStringLiteral("day/clip.mp4"), QByteArray("xxxx")), longAgo);
     setModified(dir.write(QStringLiteral("other.wav")), longAgo);
+    // Times of folders go on in steps of milliseconds: a change may have that of the making.
+    const QByteArray folder = QFile::encodeName(dir.filePath(QStringLiteral("day")));
+    const auto before = std::filesystem::last_write_time(folder.toStdString());
+    std::filesystem::last_write_time(folder.toStdString(), before - std::chrono::hours(1));
 
     const NxFootageGuard guard(dir.path());
     meddle(dir);

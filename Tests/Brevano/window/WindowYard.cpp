@@ -28,6 +28,7 @@
 #include <Footage/NxFootageRecipes.h>
 #include <Footage/NxFootageSet.h>
 #include <NxMediaLibrary/PanelNames.h>
+#include <Support/NxPatience.h>
 
 #include <QAction>
 #include <QApplication>
@@ -38,6 +39,7 @@
 #include <QLabel>
 #include <QMenu>
 #include <QMenuBar>
+#include <QSignalSpy>
 #include <QStatusBar>
 #include <QTest>
 #include <QTimer>
@@ -194,7 +196,16 @@ void WindowYard::import(const QStringList &paths, INxFolderMedia *into) const
 
 void WindowYard::readAll() const
 {
-    QTRY_VERIFY_WITH_TIMEOUT(project()->footageService()->isIdle(), Patience);
+    INxFootageService *service = project()->footageService();
+    const QSignalSpy read(service, &INxFootageService::itemRead);
+    const QSignalSpy pictured(service, &INxFootageService::picturesMade);
+    const auto isIdle = [service] { return service->isIdle(); };
+    // As long as it goes on: machines are not equally fast.
+    for (int before = -1, now = 0; !isIdle() && now > before; now = read.size() + pictured.size()) {
+        before = now;
+        (void)QTest::qWaitFor(isIdle, Patience);
+    }
+    QVERIFY(isIdle());
 }
 
 INxFolderMedia *WindowYard::addFolder(const QString &name) const
@@ -335,7 +346,7 @@ bool WindowYard::clickEntry(QMenu *menu, QAction *entry) const
         if (!one->menu() || !one->menu()->actions().contains(entry))
             continue;
         QTest::mouseClick(menu, Qt::LeftButton, {}, menu->actionGeometry(one).center());
-        return QTest::qWaitFor([one] { return one->menu()->isVisible(); })
+        return QTest::qWaitFor([one] { return one->menu()->isVisible(); }, Patience)
                && clickEntry(one->menu(), entry);
     }
     return false;

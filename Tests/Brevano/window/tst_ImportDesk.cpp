@@ -246,11 +246,9 @@ void tst_ImportDesk::readingIsCountedUntilItIsOver()
 void tst_ImportDesk::unreadableFilesJoinTheReport()
 {
     ImportYard yard(ImportYard::Reading::Everything);
-    QSignalSpy changed(&yard.desk, &ImportDesk::sigReportChanged);
     yard.import({yard.rubbish(QStringLiteral("bad.png")), yard.picture(QStringLiteral("a.png"))});
     QCOMPARE(yard.desk.report().added, 2);
     QTRY_COMPARE_WITH_TIMEOUT(yard.desk.report().unreadable, 1, Patience);
-    QTRY_VERIFY(changed.size() > 0);
     QCOMPARE(linesOf(yard.desk.report()), QStringList(QStringLiteral("3 bad.png")));
     const NxImportReportLine line = yard.desk.report().lines.first();
     QCOMPARE(line.path, yard.path(QStringLiteral("bad.png")));

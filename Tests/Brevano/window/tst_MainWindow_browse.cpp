@@ -360,7 +360,8 @@ void tst_MainWindow_browse::categoriesAreChosen()
     QVERIFY(yard.rows() != Yard::all());
     QVERIFY(yard.says(QStringLiteral("%1 media").arg(yard.rows().size()))
             || QTest::qWaitFor(
-                [&yard] { return yard.says(QStringLiteral("%1 media").arg(yard.rows().size())); }));
+                [&yard] { return yard.says(QStringLiteral("%1 media").arg(yard.rows().size())); },
+                WindowYard::Patience));
     yard.press(Qt::CTRL | Qt::SHIFT | Qt::Key_Tab);
     while (yard.items()->categoryType() != NXVBLMODEL::mctMedia)
         yard.press(Qt::CTRL | Qt::SHIFT | Qt::Key_Tab);

@@ -370,7 +370,7 @@ void tst_MainWindow_import::anImportThatTheWindowLeavesGoesOnLater()
 {
     Yard yard(Reading::Everything);
     const NewWindows windows;
-    (void)yard.pictures(1'500);
+    (void)yard.pictures(600);
     yard.window()->importPaths({yard.dir.filePath(QStringLiteral("pictures of the day"))});
     const ImportDesk *desk = yard.window()->desk();
     while (desk->isBusy() && desk->added() == 0)

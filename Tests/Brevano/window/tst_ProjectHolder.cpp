@@ -120,7 +120,8 @@ NxResult<void> tst_ProjectHolder::copy(const QString &to)
         answer = result;
         isDone = true;
     });
-    return QTest::qWaitFor([&isDone] { return isDone; }) ? answer : NxError{QStringLiteral("?")};
+    const bool isTold = QTest::qWaitFor([&isDone] { return isDone; }, NxPatience);
+    return isTold ? answer : NxError{QStringLiteral("?")};
 }
 
 void tst_ProjectHolder::nothingIsOpenAtFirst()

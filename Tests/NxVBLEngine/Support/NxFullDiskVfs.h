@@ -11,7 +11,8 @@ struct NxFullDiskVfsState;
 
 /// An SQLite file layer whose disk becomes full at a chosen write.
 ///
-/// Everything else goes to the system's layer. Every object is a layer and a disk of its own; all
+/// Everything else goes to the system's layer, but for telling the disk itself to write, which is
+/// only counted. Every object is a layer and a disk of its own; all
 /// databases opened through it must be closed before it dies. Counters may be read on any thread.
 class NxFullDiskVfs
 {
@@ -30,11 +31,15 @@ public:
     /// The n-th write from now on, counted from 1, finds the disk full; 0 for none.
     void fillAtWrite(int n, Then then = Then::FullForGood);
 
+    /// Every write waits from now on, until the same thread calls letGo().
+    void hold();
+    void letGo();
+
     /// Writes since the last fillAtWrite(), the failed ones included.
     [[nodiscard]] int writes() const;
     /// How many of them found the disk full.
     [[nodiscard]] int refusedWrites() const;
-    /// How often a file was told to reach the disk itself.
+    /// How often a file was to reach the disk itself.
     [[nodiscard]] int syncs() const;
 
 private:

@@ -159,7 +159,8 @@ void tst_NxPresenceCheck::aFolderChangedJustNowIsNotSettled()
 {
     MadeUpDisk made;
     made.add("/old", NxFileKind::Folder, 1'000);
-    made.add("/new", NxFileKind::Folder, QDateTime::currentMSecsSinceEpoch());
+    constexpr qint64 hour = 3'600'000; // ms
+    made.add("/new", NxFileKind::Folder, QDateTime::currentMSecsSinceEpoch() + hour);
     NxDiskPulse pulse;
     QVERIFY(NxPresenceCheck::answer(question(QStringLiteral("/old"), {}), made.disk(), pulse)
                 .state.settled);

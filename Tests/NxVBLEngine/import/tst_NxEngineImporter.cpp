@@ -584,7 +584,7 @@ void tst_NxEngineImporter::aDriveThatDoesNotAnswerCostsOnlyItsPath()
         dir.write(QLatin1String(name));
     DeadDrive drive;
     Import f(drive.look(dir.filePath(QStringLiteral("dead/2.mp4"))),
-             std::chrono::milliseconds(200));
+             std::chrono::milliseconds(2'000));
     const NxImportReport report = f.run(f.section, {
         dir.filePath(QStringLiteral("a")), dir.filePath(QStringLiteral("dead")),
         dir.filePath(QStringLiteral("c"))});

@@ -3,9 +3,9 @@
 #include "EngineEvents.h"
 #include "RandomSession.h"
 
+#include <Support/NxSeeds.h>
 #include <Support/NxTestMain.h>
 
-#include <QRandomGenerator>
 #include <QtTest>
 
 #include <algorithm>
@@ -42,11 +42,7 @@ private:
 private Q_SLOTS:
     void everythingCanBeTakenBackAndDoneAgain_data()
     {
-        QTest::addColumn<quint32>("seed");
-        for (quint32 seed = 1; seed <= Seeds; ++seed)
-            QTest::addRow("seed %u", seed) << seed;
-        const quint32 fresh = QRandomGenerator::system()->generate();
-        QTest::addRow("fresh seed %u", fresh) << fresh;
+        nxAddSeeds(Seeds);
     }
 
     void everythingCanBeTakenBackAndDoneAgain()

@@ -24,10 +24,10 @@
 #include <NxVBLEngine/Support/NxProjectDump.h>
 #include <Support/NxFootageGuard.h>
 #include <Support/NxTempDir.h>
+#include <Support/NxSeeds.h>
 #include <Support/NxTestMain.h>
 
 #include <QFile>
-#include <QRandomGenerator>
 #include <QSignalSpy>
 #include <QTemporaryDir>
 #include <QtTest>
@@ -70,13 +70,11 @@ void readSomething(NxProjectMemory *memory, std::mt19937 *random)
 
 bool commit(INxProject *project)
 {
-    int answers = 0;
-    bool good = false;
-    project->requestCommit([&](const NxResult<void> &result) {
-        ++answers;
-        good = bool(result);
-    });
-    return QTest::qWaitFor([&answers] { return answers == 1; }) && good;
+    const auto answers = std::make_shared<QVector<bool>>();
+    project->requestCommit(
+        [answers](const NxResult<void> &result) { answers->append(bool(result)); });
+    return QTest::qWaitFor([&answers] { return answers->size() == 1; }, NxPatience)
+           && answers->first();
 }
 
 } // namespace
@@ -108,6 +106,7 @@ private:
     {
         NxEmbeddedEngine::Options options;
         options.backups = false;
+        options.readsFootage = false;
         return options;
     }
 
@@ -254,11 +253,7 @@ private Q_SLOTS:
 
     void randomSessionsSurviveClosingAndUndoInTheNextProcess_data()
     {
-        QTest::addColumn<quint32>("seed");
-        for (quint32 seed = 1; seed <= 20; ++seed)
-            QTest::addRow("seed %u", seed) << seed;
-        const quint32 fresh = QRandomGenerator::system()->generate();
-        QTest::addRow("fresh seed %u", fresh) << fresh;
+        nxAddSeeds(20);
     }
 
     void randomSessionsSurviveClosingAndUndoInTheNextProcess()

@@ -5,7 +5,7 @@
 namespace {
 
 constexpr std::chrono::seconds Generous{60};
-constexpr std::chrono::milliseconds Short{500};
+constexpr std::chrono::milliseconds Short{3'000};
 
 } // namespace
 

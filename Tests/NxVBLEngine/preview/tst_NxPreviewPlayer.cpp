@@ -203,7 +203,8 @@ void tst_NxPreviewPlayer::aFileThatEndsItsPlayerIsTriedOnceMore()
     QFETCH(QString, name);
     QFETCH(QString, reason);
     Playing f;
-    f.settings = f.films.impatient();
+    if (name.startsWith(QLatin1String("hang")))
+        f.settings = f.films.impatient();
     f.play(name);
     QTRY_COMPARE(f.opened().reason, reason);
     QCOMPARE(f.opened().number, f.number);
@@ -228,7 +229,8 @@ void tst_NxPreviewPlayer::aFileMayEndItsPlayerOnce()
 {
     QFETCH(QString, name);
     Playing f;
-    f.settings = f.films.impatient();
+    if (name.startsWith(QLatin1String("hang")))
+        f.settings = f.films.impatient();
     f.play(name, 5);
     QTRY_VERIFY(f.isFull());
     QCOMPARE(f.opened().frames, ScriptedFilms::Frames);
@@ -351,15 +353,15 @@ void tst_NxPreviewPlayer::aPlayerThatNeverStartsIsGivenUp()
     QFETCH(int, starts);
     Playing f(manner);
     if (manner == QLatin1String("silent"))
-        f.settings.startLimit = std::chrono::milliseconds(500);
+        f.settings.startLimit = std::chrono::seconds(1);
     NxTestLog::expectError(QStringLiteral("no preview is played"));
     f.play("a.mp4");
     QTRY_VERIFY(!f.opened().reason.isEmpty());
     QCOMPARE(f.opened().number, f.number);
-    QCOMPARE(f.films.starts().size(), starts);
+    QCOMPARE(f.count(What::Lost), starts);
     f.play("b.mp4");
     QCOMPARE(f.opened().number, f.number);
-    QCOMPARE(f.films.starts().size(), starts);
+    QCOMPARE(f.count(What::Lost), starts);
 }
 
 void tst_NxPreviewPlayer::withoutAProgramThereIsOneErrorLine()
@@ -425,7 +427,7 @@ void tst_NxPreviewPlayer::itMayDieWithWorkUnderWay()
     QTRY_VERIFY(!f.films.opened().isEmpty());
     f.player.reset();
     for (const QString &id : f.films.starts())
-        QVERIFY(isProcessGone(id.toLongLong()));
+        QTRY_VERIFY(isProcessGone(id.toLongLong()));
 }
 
 NX_TEST_MAIN(tst_NxPreviewPlayer)

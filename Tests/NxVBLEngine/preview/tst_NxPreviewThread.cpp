@@ -102,7 +102,7 @@ void tst_NxPreviewThread::itEndsWithWorkUnderWay()
     QTRY_VERIFY_WITH_TIMEOUT(!f.films.opened().isEmpty(), 30'000);
     f.thread.reset();
     for (const QString &id : f.films.starts())
-        QVERIFY(isProcessGone(id.toLongLong()));
+        QTRY_VERIFY(isProcessGone(id.toLongLong()));
 }
 
 void tst_NxPreviewThread::itMayEndAtOnce()
@@ -116,7 +116,7 @@ void tst_NxPreviewThread::itMayEndAtOnce()
         f.thread.reset();
     }
     for (const QString &id : f.films.starts())
-        QVERIFY(isProcessGone(id.toLongLong()));
+        QTRY_VERIFY(isProcessGone(id.toLongLong()));
 }
 
 NX_TEST_MAIN(tst_NxPreviewThread)

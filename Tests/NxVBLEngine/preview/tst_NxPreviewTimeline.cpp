@@ -188,7 +188,7 @@ void tst_NxPreviewTimeline::itMayOutliveTheService()
     QVERIFY(timeline->insertClip(f.clip("b.mp4").release(), 0, 0));
     QCOMPARE(timeline->frameCount(), 0);
     for (const QString &id : f.films.starts())
-        QVERIFY(isProcessGone(id.toLongLong()));
+        QTRY_VERIFY(isProcessGone(id.toLongLong()));
 }
 
 void tst_NxPreviewTimeline::aClipIsAsLongAsItsTimeline()

@@ -12,7 +12,7 @@
 namespace {
 
 constexpr std::chrono::seconds Generous{60};
-constexpr std::chrono::milliseconds Short{300};
+constexpr std::chrono::milliseconds Short{1'000};
 
 } // namespace
 

@@ -204,7 +204,7 @@ void tst_FootageOfProjects::aProjectMayCloseWhileItIsRead()
         QVERIFY(f.project->close());
     }
     for (const QString &id : footage.starts())
-        QVERIFY(isProcessGone(id.toLongLong()));
+        QTRY_VERIFY(isProcessGone(id.toLongLong()));
     StoredProject f(footage, footage.path);
     QCOMPARE(f.only()->readState(), NxReadState::Unread);
 }

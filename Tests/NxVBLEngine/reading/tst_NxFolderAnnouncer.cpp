@@ -87,8 +87,8 @@ void tst_NxFolderAnnouncer::childrenAreAnnouncedBeforeTheirParents()
     EngineEvents events(f.category);
     QVERIFY(f.announcer->isAnythingNoted());
     f.announcer->announce();
+    QTRY_VERIFY(!f.announcer->isAnythingNoted());
     QCOMPARE(events.take(), ChildrenFirst);
-    QVERIFY(!f.announcer->isAnythingNoted());
 }
 
 void tst_NxFolderAnnouncer::nothingNotedNothingSaid()
@@ -107,6 +107,7 @@ void tst_NxFolderAnnouncer::aFolderIsAnnouncedOnceASecond()
     clock.start();
     f.announcer->note(f.inChild);
     f.announcer->announce();
+    QTRY_VERIFY(!f.announcer->isAnythingNoted());
     QCOMPARE(events.take(), QStringList(ChildrenFirst.at(1)));
     for (int i = 0; i < 10; ++i) {
         f.announcer->note(f.inChild);
@@ -114,11 +115,14 @@ void tst_NxFolderAnnouncer::aFolderIsAnnouncedOnceASecond()
     }
     f.announcer->note(f.inParent); // It was not announced yet and needs not wait.
     f.announcer->announce();
-    if (clock.elapsed() < NxFolderAnnouncer::ShortestInterval)
-        QCOMPARE(events.take(), QStringList(ChildrenFirst.at(2)));
+    const bool isWithinTheSecond = clock.elapsed() < NxFolderAnnouncer::ShortestInterval;
     QTRY_VERIFY(!f.announcer->isAnythingNoted());
-    QCOMPARE(events.take().last(), ChildrenFirst.at(1));
-    QVERIFY(clock.elapsed() >= NxFolderAnnouncer::ShortestInterval);
+    QStringList told = events.take();
+    if (isWithinTheSecond)
+        QCOMPARE(told, QStringList({ChildrenFirst.at(2), ChildrenFirst.at(1)}));
+    told.sort();
+    QCOMPARE(told, QStringList({ChildrenFirst.at(1), ChildrenFirst.at(2)}));
+    QVERIFY(clock.elapsed() >= NxFolderAnnouncer::ShortestInterval - 1); // Both are cut off.
 }
 
 void tst_NxFolderAnnouncer::removedFoldersAreNotAnnounced()
@@ -128,6 +132,7 @@ void tst_NxFolderAnnouncer::removedFoldersAreNotAnnounced()
     QVERIFY(f.folders->removeFolder(f.child));
     EngineEvents events(f.category);
     f.announcer->announce();
+    QTRY_VERIFY(!f.announcer->isAnythingNoted());
     QCOMPARE(events.take(), QStringList(ChildrenFirst.at(2)));
 }
 
@@ -150,7 +155,8 @@ void tst_NxFolderAnnouncer::anObserverMayRemoveTheOtherFolders()
             QVERIFY(f.folders->removeFolder(f.child));
     });
     f.announcer->announce();
-    QCOMPARE(heard, QStringList({QStringLiteral("grandchild"), QStringLiteral("parent")}));
+    QTRY_COMPARE(heard, QStringList({QStringLiteral("grandchild"), QStringLiteral("parent")}));
+    QTRY_VERIFY(!f.announcer->isAnythingNoted());
 }
 
 void tst_NxFolderAnnouncer::anObserverMayEndTheAnnouncer()
@@ -163,7 +169,7 @@ void tst_NxFolderAnnouncer::anObserverMayEndTheAnnouncer()
         f.announcer.reset();
     });
     f.announcer->announce();
-    QCOMPARE(heard, 1);
+    QTRY_COMPARE(heard, 1);
 }
 
 void tst_NxFolderAnnouncer::anObserverMayAnnounceMore()

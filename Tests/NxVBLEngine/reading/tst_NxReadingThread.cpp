@@ -120,7 +120,7 @@ void tst_NxReadingThread::itEndsWithWorkUnderWay()
     QTRY_VERIFY(!f.footage.requests().isEmpty());
     f.thread.reset();
     for (const QString &id : f.footage.starts())
-        QVERIFY(isProcessGone(id.toLongLong()));
+        QTRY_VERIFY(isProcessGone(id.toLongLong()));
 }
 
 void tst_NxReadingThread::itMayEndAtOnce()
@@ -134,7 +134,7 @@ void tst_NxReadingThread::itMayEndAtOnce()
         f.thread.reset();
     }
     for (const QString &id : f.footage.starts())
-        QVERIFY(isProcessGone(id.toLongLong()));
+        QTRY_VERIFY(isProcessGone(id.toLongLong()));
 }
 
 NX_TEST_MAIN(tst_NxReadingThread)

@@ -8,6 +8,7 @@
 
 #include <QSet>
 #include <QTest>
+#include <QTimer>
 
 #include <signal.h>
 
@@ -167,8 +168,10 @@ void tst_NxWorkerPool::aFileThatKillsIsTriedOnceMore_data()
 void tst_NxWorkerPool::aFileThatKillsIsTriedOnceMore()
 {
     QFETCH(QString, name);
+    QFETCH(QString, reason);
     Pool f(2);
-    f.settings.factsLimit = 1s;
+    if (reason.contains(QLatin1String("too long")))
+        f.settings.factsLimit = 3s;
     QVector<quint64> good;
     for (int i = 0; i < 5; ++i)
         good.append(f.ask(QStringLiteral("%1.mp4").arg(i)));
@@ -209,7 +212,8 @@ void tst_NxWorkerPool::aWorkerKilledFromOutsideIsReplaced()
 {
     QFETCH(int, signal);
     Pool f;
-    f.settings.factsLimit = 1s;
+    if (signal == SIGSTOP)
+        f.settings.factsLimit = 5s;
     const quint64 hit = f.ask("gated.mp4");
     const quint64 other = f.ask("other.mp4");
     QTRY_COMPARE(f.footage.requests().size(), 1);
@@ -259,7 +263,7 @@ void tst_NxWorkerPool::picturesMayTakeLongerThanFacts()
 void tst_NxWorkerPool::aSilentDriveHoldsUpOneWorker()
 {
     Pool f(2);
-    f.settings.slowOpening = 300ms;
+    f.settings.slowOpening = 1s;
     QVector<quint64> dead;
     for (int i = 0; i < 6; ++i)
         dead.append(f.ask(QStringLiteral("dead/slow-%1.mp4").arg(i)));
@@ -283,17 +287,17 @@ void tst_NxWorkerPool::aSilentDriveHoldsUpOneWorker()
 void tst_NxWorkerPool::aSlowDriveIsToldOfWhenItAnswers()
 {
     Pool f(2);
-    f.settings.slowOpening = 100ms;
+    f.settings.slowOpening = 1s;
     const quint64 slow = f.ask("dead/slow.mp4");
     QTRY_COMPARE(f.footage.requests().size(), 1);
     const quint64 good = f.ask("good.mp4");
     QTRY_VERIFY(f.isTold(good));
-    const auto isHeldBack = [&f] {
-        const quint64 number = f.ask("dead/b.mp4");
-        return QTest::qWaitFor([&] { return f.isTold(number); })
-               && f.endOf(number) == NxReadEnd::DriveSilent;
-    };
-    QVERIFY(QTest::qWaitFor(isHeldBack, 30'000));
+    bool isSlowByNow = false; // Timers fire in their order.
+    QTimer::singleShot(2s, Qt::PreciseTimer, this, [&] { isSlowByNow = true; });
+    QTRY_VERIFY(isSlowByNow);
+    const quint64 held = f.ask("dead/b.mp4"); // Only now: its answer would clear the drive.
+    QTRY_VERIFY(f.isTold(held));
+    QCOMPARE(f.endOf(held), NxReadEnd::DriveSilent);
     f.footage.openGate();
     QVERIFY(f.finish());
     QCOMPARE(f.endOf(slow), NxReadEnd::Answered);
@@ -312,7 +316,7 @@ void tst_NxWorkerPool::aDriveIsNoLongerSlowWhenItHasOpenedTheFile()
     const quint64 lasting = f.ask("dead/gated.mp4");
     const auto isAnswered = [&f] {
         const quint64 number = f.ask("dead/b.mp4");
-        return QTest::qWaitFor([&] { return f.isTold(number); })
+        return QTest::qWaitFor([&] { return f.isTold(number); }, NxPatience)
             && f.endOf(number) == NxReadEnd::Answered;
     };
     QVERIFY(QTest::qWaitFor(isAnswered, 30'000));
@@ -325,8 +329,8 @@ void tst_NxWorkerPool::aDriveIsNoLongerSlowWhenItHasOpenedTheFile()
 void tst_NxWorkerPool::aSilentDriveIsTriedAgain()
 {
     Pool f;
-    f.settings.slowOpening = 100ms;
-    f.settings.openingLimit = 300ms;
+    f.settings.slowOpening = 1s;
+    f.settings.openingLimit = 3s;
     f.settings.silentPause = 1ms;
     const quint64 slow = f.ask("dead/slow.mp4");
     const quint64 good = f.ask("good.mp4");
@@ -336,7 +340,7 @@ void tst_NxWorkerPool::aSilentDriveIsTriedAgain()
     f.footage.openGate();
     const auto comesBack = [&f] {
         const quint64 number = f.ask("dead/slow.mp4");
-        return QTest::qWaitFor([&] { return f.isTold(number); })
+        return QTest::qWaitFor([&] { return f.isTold(number); }, NxPatience)
                && f.endOf(number) == NxReadEnd::Answered
                && !f.outcomes[number].volumeBack.isEmpty();
     };
@@ -383,7 +387,10 @@ void tst_NxWorkerPool::workersThatNeverStartAreGivenUp()
         QCOMPARE(f.endOf(number), NxReadEnd::NoWorker);
         QVERIFY(f.outcomes[number].reason.contains(f.footage.program()));
     }
-    QTEST(f.footage.starts().size(), "starts");
+    QFETCH(int, starts);
+    // One that says nothing may be ended before it has written down that it started.
+    QVERIFY(f.footage.starts().size() <= starts);
+    QVERIFY(manner == QLatin1String("silent") || f.footage.starts().size() == starts);
     QVERIFY(f.footage.requests().isEmpty());
 }
 
@@ -441,7 +448,7 @@ void tst_NxWorkerPool::thePoolMayDieWithWorkUnderWay()
     f.pool.reset();
     QCOMPARE(ids.size(), size_t(2));
     for (const qint64 id : ids)
-        QVERIFY(isProcessGone(id));
+        QTRY_VERIFY(isProcessGone(id));
     QVERIFY(f.told.empty());
 }
 

@@ -113,7 +113,7 @@ void tst_NxRelinkSearch_projects::closingTellsWhatWasFound()
     QVERIFY(finished.first().at(1).value<NxRelinkReport>().cancelled);
     QVERIFY(!f.project->relinkSearch());
     for (const QString &id : files.footage.starts())
-        QVERIFY(isProcessGone(id.toLongLong()));
+        QTRY_VERIFY(isProcessGone(id.toLongLong()));
 }
 
 void tst_NxRelinkSearch_projects::theProjectMayCloseInTheMiddle()
@@ -137,7 +137,7 @@ void tst_NxRelinkSearch_projects::theProjectMayCloseInTheMiddle()
         f.project.reset();
     }
     for (const QString &id : files.footage.starts())
-        QVERIFY(isProcessGone(id.toLongLong()));
+        QTRY_VERIFY(isProcessGone(id.toLongLong()));
 }
 
 void tst_NxRelinkSearch_projects::theProjectMayCloseInItsSignals_data()

@@ -28,9 +28,10 @@ int holdMemory(const char *megabytes, const char *limit)
     const ProcessWatch watch(std::atoll(limit) * MiB);
     std::vector<char> held(size_t(std::atoll(megabytes) * MiB), 1);
     constexpr int longEnough = 500; // ms
+    const bool isTooMuch = std::atoll(megabytes) > std::atoll(limit);
     QElapsedTimer clock;
     clock.start();
-    for (int round = 0; !clock.hasExpired(longEnough); ++round)
+    for (int round = 0; isTooMuch || !clock.hasExpired(longEnough); ++round)
         std::memset(held.data(), round, held.size());
     return int(NxWorkerExit::Done);
 }
