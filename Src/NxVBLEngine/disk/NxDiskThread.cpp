@@ -83,9 +83,8 @@ struct NxDiskThread::Worker
     quint64 leaveIfStuck(std::chrono::milliseconds patience)
     {
         const std::lock_guard<std::mutex> lock(mutex);
-        if (running == 0 || pulse.sinceLastBeat() <= patience)
+        if (running == 0 || pulse.sinceLastBeat() <= patience || !pulse.leaveBehind())
             return 0;
-        pulse.abandon();
         left = true;
         return running;
     }
@@ -106,7 +105,20 @@ void NxDiskPulse::beat()
 
 void NxDiskPulse::start()
 {
+    m_fate = Fate::Running;
     beat();
+}
+
+bool NxDiskPulse::conclude()
+{
+    Fate fate = Fate::Running;
+    return m_fate.compare_exchange_strong(fate, Fate::Concluded) || fate == Fate::Concluded;
+}
+
+bool NxDiskPulse::leaveBehind()
+{
+    Fate fate = Fate::Running;
+    return m_fate.compare_exchange_strong(fate, Fate::LeftBehind);
 }
 
 std::chrono::milliseconds NxDiskPulse::sinceLastBeat() const
@@ -210,7 +222,7 @@ void NxDiskThread::close()
     m_supervisor.stop();
     const std::vector<PostedTask> droppedSmall = m_shared->small.drain();
     const std::vector<PostedTask> dropped = m_shared->normal.drain();
-    m_worker->pulse.abandon();
+    m_worker->pulse.close();
     m_shared->tickets.close();
 
     if (m_worker->ended.waitPop(std::min(m_patience, LongestFarewell))) {

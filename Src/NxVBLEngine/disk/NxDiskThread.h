@@ -24,16 +24,23 @@ public:
     void beat();
     /// True when nobody waits for the task any more: it should return, and nothing that it
     /// answers from now on is used.
-    [[nodiscard]] bool isAbandoned() const { return m_abandoned; }
+    [[nodiscard]] bool isAbandoned() const { return m_isClosing || m_fate == Fate::LeftBehind; }
+    /// The task has its answer: from here on nobody leaves it behind. False when somebody has.
+    [[nodiscard]] bool conclude();
 
     /// For the thread itself.
     void start();
-    void abandon() { m_abandoned = true; }
+    /// False when the task has its answer.
+    [[nodiscard]] bool leaveBehind();
+    void close() { m_isClosing = true; }
     [[nodiscard]] std::chrono::milliseconds sinceLastBeat() const;
 
 private:
+    enum class Fate { Running, Concluded, LeftBehind };
+
     std::atomic<Clock::rep> m_lastBeat{0};
-    std::atomic<bool> m_abandoned{false};
+    std::atomic<Fate> m_fate{Fate::Running};
+    std::atomic<bool> m_isClosing{false};
 };
 
 /// The one thread of a project that waits for disks.

@@ -46,8 +46,7 @@ struct NxPresenceKeeper::Post
 
     void send(News news, NxDiskPulse &pulse)
     {
-        pulse.beat(); // From here on nobody gives the task up.
-        news.isLate = pulse.isAbandoned();
+        news.isLate = !pulse.conclude();
         queue.push(std::move(news));
         bell.ring();
     }

@@ -8,14 +8,16 @@
 #include <NxCore/NxQueue.h>
 
 #include <QElapsedTimer>
+#include <QSignalSpy>
 #include <QTest>
+#include <QTimer>
 
 #include <atomic>
 #include <string>
 
 namespace {
 
-constexpr std::chrono::milliseconds Short{150};
+constexpr std::chrono::milliseconds Short{1'000};
 constexpr std::chrono::minutes Long{5};
 
 /// What tasks of a test share with it; outlives every thread that was left behind.
@@ -50,6 +52,8 @@ private Q_SLOTS:
     void aTaskThatHangsIsLeftBehind();
     void aTaskThatGivesSignsOfLifeIsNot();
     void theTaskThatWasLeftLearnsIt();
+    void aTaskWithItsAnswerIsNotLeftBehind();
+    void onlyOneOfAnsweringAndLeavingComesTrue();
     void whatTasksCaptureDiesWithThem();
     void closeDropsWhatWaits();
     void closeAsksTheRunningTaskToReturn();
@@ -134,7 +138,7 @@ void tst_NxDiskThread::aTaskThatGivesSignsOfLifeIsNot()
     }, [&stuck] { stuck = true; });
     QElapsedTimer clock;
     clock.start();
-    QTRY_VERIFY(clock.hasExpired(Short.count() * 4));
+    QTRY_VERIFY(clock.hasExpired(Short.count() * 2));
     QVERIFY(!stuck);
     shared->gate.close();
     QCOMPARE(waitFor(shared, 1), std::vector<int>({7}));
@@ -152,6 +156,48 @@ void tst_NxDiskThread::theTaskThatWasLeftLearnsIt()
     QTRY_VERIFY(stuck);
     shared->gate.close();
     QCOMPARE(waitFor(shared, 1), std::vector<int>({1}));
+}
+
+void tst_NxDiskThread::aTaskWithItsAnswerIsNotLeftBehind()
+{
+    const auto shared = std::make_shared<Shared>();
+    NxDiskThread disk(Short);
+    int stuck = 0;
+    disk.post([shared](NxDiskPulse &pulse) {
+        shared->order.push(pulse.conclude() ? 1 : 0);
+        (void)shared->gate.waitPop(Long);
+        shared->order.push(pulse.isAbandoned() ? 0 : 2);
+    }, [&stuck] { ++stuck; });
+    QCOMPARE(waitFor(shared, 1), std::vector<int>({1}));
+    QTRY_VERIFY(disk.isStuck()); // So long that it would be left behind.
+    QTimer beside; // As long as several looks after what hangs.
+    const QSignalSpy beats(&beside, &QTimer::timeout);
+    beside.start(Short);
+    QTRY_VERIFY(beats.size() >= 2);
+    QCOMPARE(stuck, 0);
+    shared->gate.close();
+    QCOMPARE(waitFor(shared, 1), std::vector<int>({2}));
+}
+
+void tst_NxDiskThread::onlyOneOfAnsweringAndLeavingComesTrue()
+{
+    NxDiskPulse answered;
+    answered.start();
+    QVERIFY(answered.conclude());
+    QVERIFY(!answered.leaveBehind());
+    QVERIFY(answered.conclude());
+    QVERIFY(!answered.isAbandoned());
+    answered.close();
+    QVERIFY(answered.isAbandoned());
+
+    NxDiskPulse left;
+    left.start();
+    QVERIFY(left.leaveBehind());
+    QVERIFY(!left.conclude());
+    QVERIFY(left.isAbandoned());
+
+    answered.start(); // The next task of a thread that is to end.
+    QVERIFY(answered.isAbandoned());
 }
 
 void tst_NxDiskThread::whatTasksCaptureDiesWithThem()
@@ -215,7 +261,7 @@ void tst_NxDiskThread::closeDoesNotWaitForADeadDrive()
         QCOMPARE(waitFor(shared, 1), std::vector<int>({0}));
         clock.start();
     }
-    QVERIFY(clock.elapsed() < 5'000);
+    QVERIFY(clock.elapsed() < NxPatience);
     shared->gate.close();
     QCOMPARE(waitFor(shared, 1), std::vector<int>({1})); // It still runs to its end, harmlessly.
 }
