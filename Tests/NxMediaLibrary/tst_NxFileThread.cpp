@@ -75,7 +75,7 @@ void tst_NxFileThread::tasksStepBackForTheWindow()
 void tst_NxFileThread::whatWaitsCanBeDropped()
 {
     const auto gate = std::make_shared<NxQueue<bool>>();
-    NxFileThread thread;
+    NxFileThread thread(std::chrono::hours(1));
     QVector<int> answers;
     thread.post(hanging(gate, [&answers] { answers.append(1); }));
     thread.post([&answers]() -> Answer { return [&answers] { answers.append(2); }; });

@@ -18,6 +18,7 @@ using SteadyClock = std::chrono::steady_clock;
 constexpr std::chrono::milliseconds LongestFarewell{1'000};
 constexpr std::chrono::hours IdleWait{1};
 constexpr SteadyClock::rep Idle = 0;
+constexpr SteadyClock::rep Left = -1;
 
 } // namespace
 
@@ -31,8 +32,8 @@ struct NxFileThread::Shared
 
 struct NxFileThread::Worker
 {
+    /// When its task began, else Idle; Left once it is to end with the task that it runs.
     std::atomic<SteadyClock::rep> runsSince{Idle};
-    std::atomic<bool> isLeft{false}; // To end with the task that it runs.
     NxQueue<bool> ended;
 };
 
@@ -75,12 +76,13 @@ void NxFileThread::dropWaiting()
 
 void NxFileThread::leaveIfStuck()
 {
-    const SteadyClock::rep since = m_worker->runsSince;
+    SteadyClock::rep since = m_worker->runsSince;
     if (since == Idle
         || SteadyClock::now() - SteadyClock::time_point(SteadyClock::duration(since)) <= m_patience)
         return;
+    if (!m_worker->runsSince.compare_exchange_strong(since, Left))
+        return; // It has just come back.
     NX_LOG_INFO("a file does not answer; going on without the thread that waits for it");
-    m_worker->isLeft = true;
     m_worker.reset();
     m_thread.detach();
 }
@@ -89,14 +91,16 @@ void NxFileThread::work(const std::shared_ptr<Shared> &shared,
                         const std::shared_ptr<Worker> &worker)
 {
     nxStepBack();
-    while (!worker->isLeft && !shared->tasks.isClosed()) {
+    bool isLeft = false;
+    while (!isLeft && !shared->tasks.isClosed()) {
         std::optional<Task> task = shared->tasks.waitPop(IdleWait);
         if (!task)
             continue;
-        worker->runsSince = SteadyClock::now().time_since_epoch().count();
+        SteadyClock::rep began = SteadyClock::now().time_since_epoch().count();
+        worker->runsSince = began;
         Answer answer = (*task)();
         task.reset();
-        worker->runsSince = Idle;
+        isLeft = !worker->runsSince.compare_exchange_strong(began, Idle);
         shared->answers.push(std::move(answer));
         shared->bell.ring();
     }
