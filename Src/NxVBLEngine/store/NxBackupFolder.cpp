@@ -25,9 +25,14 @@ QString partSuffix()
     return QStringLiteral(".brevano-part");
 }
 
+QString dateFormat()
+{
+    return QStringLiteral("yyyyMMdd");
+}
+
 QString timeFormat()
 {
-    return QStringLiteral("yyyyMMdd'T'HHmmsszzz'Z'");
+    return QStringLiteral("'T'HHmmsszzz'Z'");
 }
 
 QString prefixFor(const QString &projectPath)
@@ -42,7 +47,7 @@ QString prefixFor(const QString &projectPath)
 
 QString timeText(qint64 msec)
 {
-    return QDateTime::fromMSecsSinceEpoch(msec, Qt::UTC).toString(timeFormat());
+    return QDateTime::fromMSecsSinceEpoch(msec, Qt::UTC).toString(dateFormat() + timeFormat());
 }
 
 } // namespace
@@ -90,11 +95,13 @@ QStringList NxBackupFolder::files(const QString &ending) const
 
 qint64 NxBackupFolder::timeOf(const QString &name) const
 {
-    QDateTime time = QDateTime::fromString(name.mid(m_prefix.size()), timeFormat());
-    if (!time.isValid())
-        return -1;
-    time.setTimeSpec(Qt::UTC);
-    return time.toMSecsSinceEpoch();
+    // Each for itself: together they would be a local time, and summer time leaves an hour out.
+    const QString text = name.mid(m_prefix.size());
+    const int dateSize = dateFormat().size();
+    const QDate date = QDate::fromString(text.left(dateSize), dateFormat());
+    const QTime time = QTime::fromString(text.mid(dateSize), timeFormat());
+    const bool isTime = date.isValid() && time.isValid();
+    return isTime ? QDateTime(date, time, Qt::UTC).toMSecsSinceEpoch() : -1;
 }
 
 void NxBackupFolder::thin() const

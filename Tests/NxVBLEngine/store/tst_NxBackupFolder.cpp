@@ -26,6 +26,7 @@ private Q_SLOTS:
     void theCloserOneGoes_data();
     void theCloserOneGoes();
     void aDayOfManyBackupsKeepsTheOlderDays();
+    void theHourThatSummerTimeLeavesOutCountsToo();
     void projectsOfOneNameAreKeptApart();
     void namesTellProjectAndTime();
     void foreignFilesAreLeftAlone();
@@ -70,6 +71,17 @@ void tst_NxBackupFolder::aDayOfManyBackupsKeepsTheOlderDays()
     QCOMPARE(kept.size(), 5);
     for (int day = 0; day < 3; ++day)
         QCOMPARE(kept.at(day), backups.pathFor(Start + day * Day));
+}
+
+void tst_NxBackupFolder::theHourThatSummerTimeLeavesOutCountsToo()
+{
+    const NxTempDir folder;
+    const NxBackupFolder backups(folder.path(), QStringLiteral("/a/Media.brevano"));
+    // In the zone of the tests no clock shows half past two on that day.
+    const QDateTime time(QDate(2026, 3, 29), QTime(2, 30), Qt::UTC);
+    const QString path = backups.pathFor(time.toMSecsSinceEpoch());
+    writeFile(path, "backup");
+    QCOMPARE(backups.backups(), QStringList(path));
 }
 
 void tst_NxBackupFolder::projectsOfOneNameAreKeptApart()
