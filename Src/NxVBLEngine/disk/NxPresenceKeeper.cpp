@@ -114,10 +114,8 @@ std::optional<bool> NxPresenceKeeper::known(const QString &path) const
     const QVector<NxEngineMedia *> media = m_memory->allMediaByPath(path);
     if (media.isEmpty())
         return std::nullopt;
-    return std::none_of(media.begin(), media.end(), [](const NxEngineMedia *each) {
-        const NxPresence presence = each->presence();
-        return presence == NxPresence::Missing || presence == NxPresence::Unreachable;
-    });
+    return std::none_of(media.begin(), media.end(),
+                        [](const NxEngineMedia *each) { return each->isAway(); });
 }
 
 void NxPresenceKeeper::onApplied(const NxChange &change)

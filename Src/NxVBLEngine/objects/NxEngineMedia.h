@@ -47,6 +47,11 @@ public:
     void setUsed(int uses) { m_used = uses; }
     [[nodiscard]] NxPresence presence() const { return m_presence; }
     void setPresence(NxPresence presence) { m_presence = presence; }
+    /// The file was looked for and is not there, or its drive does not answer.
+    [[nodiscard]] bool isAway() const
+    {
+        return m_presence == NxPresence::Missing || m_presence == NxPresence::Unreachable;
+    }
 
     /// What is known of the file's contents. Without copying: the accessors below.
     [[nodiscard]] NxFootageRecord footage() const;

@@ -19,11 +19,6 @@ namespace {
 constexpr int ProgressInterval = 100; // ms
 constexpr int WeightPerWorker = 16;
 
-bool isAway(const NxEngineMedia *media)
-{
-    return media->presence() == NxPresence::Missing || media->presence() == NxPresence::Unreachable;
-}
-
 NxFootageStatus statusOf(NxPictureState state)
 {
     // By NxPictureState.
@@ -53,7 +48,7 @@ QByteArray hex(const NxFingerprint &fingerprint)
 NxFootageReader::NxFootageReader(NxProjectMemory *memory, NxWorkerSettings settings)
     : m_memory(memory),
       m_settings(std::move(settings)),
-      m_bell([this] { pumpLater(); }),
+      m_bell([this] { m_pumpTimer.start(); }),
       m_announcer(memory)
 {
     // A timer, not the bell itself: between two of its turns all other events get theirs.
@@ -163,7 +158,7 @@ void NxFootageReader::submit()
 void NxFootageReader::submit(const NxReadingOrder::Item &item, std::vector<NxReadRequest> *requests)
 {
     const NxEngineMedia *media = m_memory->media(item.media);
-    if (!media || !media->folder() || isAway(media)) {
+    if (!media || !media->folder() || media->isAway()) {
         forgetWishes(item.media);
         return;
     }

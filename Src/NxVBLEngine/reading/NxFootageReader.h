@@ -92,6 +92,8 @@ private:
     [[nodiscard]] quint8 wishesFor(const NxReadingOrder::Item &item) const;
     void applyOutcomes(const NxSlice &slice);
     void apply(const NxReadOutcome &outcome);
+    /// Nobody has seen the file of which this is the answer, and more is known of it than that.
+    [[nodiscard]] bool hasVanished(const NxEngineMedia &media, const NxReadAnswer &answer) const;
     void applyAnswer(NxEngineMedia *media, const Flight &flight, const NxReadAnswer &answer);
     void applyFacts(NxEngineMedia *media, const Flight &flight, const NxReadAnswer &answer);
     void applyPictures(NxEngineMedia *media, const NxReadAnswer &answer);

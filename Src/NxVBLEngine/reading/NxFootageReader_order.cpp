@@ -25,12 +25,6 @@ bool needsPictures(const NxEngineMedia *media)
         && (isUntried || (media->fingerprint().isNull() && !hasFailed));
 }
 
-bool isAway(const NxEngineMedia *media)
-{
-    return media->presence() == NxPresence::Missing
-        || media->presence() == NxPresence::Unreachable;
-}
-
 } // namespace
 
 void NxFootageReader::start()
@@ -83,7 +77,7 @@ void NxFootageReader::want(const QList<INxAbstractMediaItem *> &items, int wishe
 
 void NxFootageReader::wantVisible(const NxEngineMedia *media)
 {
-    if (media->folder() && !isAway(media) && wantOne(media, wFacts | wPictures))
+    if (media->folder() && !media->isAway() && wantOne(media, wFacts | wPictures))
         pumpLater();
 }
 
@@ -161,7 +155,7 @@ void NxFootageReader::askQuiet()
     std::vector<qint64> due;
     for (const qint64 id : m_quiet.due(m_clock.elapsed())) {
         const NxEngineMedia *media = m_memory->media(id);
-        if (media && media->folder() && !isAway(media))
+        if (media && media->folder() && !media->isAway())
             due.push_back(id);
         else
             m_quiet.forget(id); // Should it come back, it is seen again.

@@ -99,10 +99,24 @@ void NxFootageReader::apply(const NxReadOutcome &outcome)
         unpark(outcome.volumeBack);
 }
 
+bool NxFootageReader::hasVanished(const NxEngineMedia &media, const NxReadAnswer &answer) const
+{
+    const bool wasSeen = answer.failure.isEmpty() || answer.stamp != NxFileStamp();
+    if (wasSeen || m_anew.contains(media.id()))
+        return false;
+    // What is known of it, its fingerprint above all, is what finds it again.
+    return media.isAway() || media.readState() == NxReadState::Read;
+}
+
 void NxFootageReader::applyAnswer(
     NxEngineMedia *media, const Flight &flight, const NxReadAnswer &answer)
 {
     const qint64 id = media->id();
+    if (hasVanished(*media, answer)) {
+        forgetWishes(id);
+        Q_EMIT looksWanted({id});
+        return;
+    }
     if (answer.changedMeanwhile && !answer.failure.isEmpty() && m_readsAll) {
         // Half a file says nothing about the whole one: it is read when it is quiet.
         readWhenQuiet(id, answer.stamp);

@@ -187,6 +187,10 @@ NxReadAnswer ScriptedWorker::answerTo(const NxReadRequest &request) const
     const QFileInfo file(QFile::decodeName(request.path));
     if (file.exists())
         answer.stamp = {file.size(), file.lastModified().toMSecsSinceEpoch()};
+    if (isNamed("vanishes") && !file.exists()) {
+        answer.failure = QStringLiteral("The file is missing.");
+        return answer;
+    }
     answer.changedMeanwhile = isNamed("half-written");
     const bool failsPictures = isNamed("unreadable-pictures") && (request.wishes & rwCover) != 0;
     if (isNamed("fails") || failsPictures || answer.changedMeanwhile) {
