@@ -12,6 +12,9 @@
 
 namespace {
 
+/// What is remembered of a row whose GIF is being read; no frame has this key.
+constexpr qint64 NotReadYet = 0;
+
 /// The crisper of its two pictures: it is made smaller once for each size.
 QImage loaded(const QString &path)
 {
@@ -54,7 +57,10 @@ QVector<QPersistentModelIndex> NxMediaCovers::takeGifRows()
         const bool isShown = row.key().isValid();
         const bool plays =
             isShown && NxGifPreviewHelper::getInstance()->getImage(mediaAt(row.key()), frame);
-        if (plays && frame.cacheKey() == row.value()) {
+        const bool isStillRead =
+            isShown && row.value() == NotReadYet
+            && NxGifPreviewHelper::getInstance()->isAwaited(mediaAt(row.key()));
+        if ((plays && frame.cacheKey() == row.value()) || isStillRead) {
             ++row;
             continue;
         }
@@ -85,8 +91,12 @@ QImage NxMediaCovers::gifFrame(const QModelIndex &index, INxAbstractMedia *media
     if (media->kindCode() != NXVBLMODEL::mkcAnimatedImage)
         return {};
     QImage frame;
-    if (!NxGifPreviewHelper::getInstance()->getImage(media, frame) || frame.isNull())
+    NxGifPreviewHelper *const gifs = NxGifPreviewHelper::getInstance();
+    if (!gifs->getImage(media, frame) || frame.isNull()) {
+        if (gifs->isAwaited(media)) // Nothing else may have it painted once it plays.
+            m_gifRows.insert(index, NotReadYet);
         return {};
+    }
     m_gifRows.insert(index, frame.cacheKey());
     return m_gifs.fitted(media, frame, box);
 }

@@ -81,13 +81,21 @@ private Q_SLOTS:
     void otherMediaKeepTheirCovers();
     void withoutAPreviewTheCoverStays();
     void animatedPicturesShowTheirFrameAndAreReported();
+    void whatIsReadAfterItsRowWasPaintedIsReported_data();
+    void whatIsReadAfterItsRowWasPaintedIsReported();
     void aRestingPictureIsNotReported();
     void aPictureThatVanishesIsReportedOnce();
     void rowsThatAreGoneAreNotReported();
     void stillPicturesAreNotReported();
 
+    void init()
+    {
+        constexpr int noon = 12 * 3'600'000; // ms. By the day's time films are put away.
+        NxGifPreviewHelper::getInstance()->setClock([] { return noon; });
+    }
     void cleanup()
     {
+        NxGifPreviewHelper::getInstance()->setClock({});
         NxGifPreviewHelper::getInstance()->stopPlay();
         NxGifPreviewHelper::getInstance()->clear();
     }
@@ -183,6 +191,32 @@ void tst_NxMediaItemPainter_motion::animatedPicturesShowTheirFrameAndAreReported
     QTRY_COMPARE(row.shown(), QColor(Qt::blue)); // Not reported again until it is painted.
     QTRY_COMPARE(row.shown(), QColor(Qt::red));
     QTRY_VERIFY(reported() == 2);
+}
+
+void tst_NxMediaItemPainter_motion::whatIsReadAfterItsRowWasPaintedIsReported_data()
+{
+    QTest::addColumn<QVector<QColor>>("frames");
+    QTest::newRow("a film") << QVector<QColor>{Qt::red, Qt::blue};
+    QTest::newRow("a still picture, once in vain") << QVector<QColor>{Qt::red};
+}
+
+void tst_NxMediaItemPainter_motion::whatIsReadAfterItsRowWasPaintedIsReported()
+{
+    QFETCH(QVector<QColor>, frames);
+    const NxTempDir dir;
+    PlayedRow row;
+    row.item.code = NXVBLMODEL::mkcAnimatedImage;
+    row.item.path = dir.write(QStringLiteral("late.gif"), GifMaker::gif(frames));
+    QCOMPARE(row.shown(), row.coverColour); // Nobody else has it painted.
+    QCOMPARE(row.painter->takeGifRows(), Rows());
+    Rows reported;
+    const auto isReported = [&] {
+        reported += row.painter->takeGifRows();
+        return !reported.isEmpty();
+    };
+    QTRY_VERIFY(isReported());
+    QCOMPARE(reported, Rows{row.index()});
+    QCOMPARE(row.painter->takeGifRows(), Rows());
 }
 
 void tst_NxMediaItemPainter_motion::aRestingPictureIsNotReported()

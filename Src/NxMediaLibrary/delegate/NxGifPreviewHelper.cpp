@@ -95,6 +95,12 @@ void NxGifPreviewHelper::stopPlay()
         entry.movie->setPaused(true);
 }
 
+bool NxGifPreviewHelper::isAwaited(INxAbstractMedia *media) const
+{
+    const auto waiting = m_waiting.constFind(media);
+    return waiting != m_waiting.constEnd() && waiting->get() == media;
+}
+
 bool NxGifPreviewHelper::getImage(INxAbstractMedia *media, QImage &out)
 {
     if (livingEntry(media) == m_movies.end() && !addMedia(media)) {

@@ -46,6 +46,8 @@ public:
     /// The present frame, which shares its pixels with the film; false when the media is no
     /// animated GIF, or its file is not read yet. Then views are told when it is.
     bool getImage(INxAbstractMedia *media, QImage &out);
+    /// Whether the media was asked for and its file is being read.
+    [[nodiscard]] bool isAwaited(INxAbstractMedia *media) const;
     /// Whether the media shows another frame at this tick than at the one before; only then its
     /// row needs to be painted. Counts as asking for it.
     [[nodiscard]] bool hasNewFrame(INxAbstractMedia *media);
