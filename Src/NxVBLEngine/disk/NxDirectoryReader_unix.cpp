@@ -45,8 +45,11 @@ void findKind(int folder, const dirent &found, NxDirectoryEntry *entry)
     if (entry->isHidden)
         return; // Nobody will want to know.
     struct stat facts = {};
-    entry->isLink = fstatat(folder, found.d_name, &facts, AT_SYMLINK_NOFOLLOW) == 0
-        && S_ISLNK(facts.st_mode);
+    if (fstatat(folder, found.d_name, &facts, AT_SYMLINK_NOFOLLOW) != 0) {
+        entry->kind = Kind::File; // Whoever opens it learns the cause.
+        return;
+    }
+    entry->isLink = S_ISLNK(facts.st_mode);
     const bool leadsSomewhere = !entry->isLink || fstatat(folder, found.d_name, &facts, 0) == 0;
     entry->kind = leadsSomewhere ? kindOfMode(facts.st_mode) : Kind::Dangling;
 }

@@ -173,13 +173,15 @@ void NxPictureService::noteLoss(const NxPictureKey &key, const Awaited &awaited)
     const QPointer<NxPictureService> self(this);
     for (auto it = awaited.askers.begin(); it != awaited.askers.end(); ++it) {
         const qint64 id = it.key();
+        NxEngineMedia *media = stillWaiting(id, key);
+        if (!media)
+            continue; // Asked for in another size it was found lost before.
         const bool isForGood = id == awaited.madeAgainFor;
         if (isForGood)
             m_lost[sizeless(key)].remove(id); // Should somebody want it tried again.
         else
             m_lost[sizeless(key)].insert(id);
-        if (NxEngineMedia *media = stillWaiting(id, key))
-            noteLoss(media, key.kind, isForGood);
+        noteLoss(media, key.kind, isForGood);
         if (!self)
             return;
     }
