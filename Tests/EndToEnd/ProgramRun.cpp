@@ -46,7 +46,8 @@ void ProgramRun::launch(const QString &program, const QStringList &arguments, co
 {
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
     environment.insert(QStringLiteral("BREVANO"), QStringLiteral(NX_BREVANO));
-    for (const char *display : {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM"})
+    for (const char *display :
+         {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM", "XDG_SESSION_TYPE"})
         environment.remove(QLatin1String(display));
     if (isForNobody())
         programForAll().addLibrariesTo(&environment);

@@ -392,19 +392,23 @@ void tst_ImportCommand::anInterruptedImportKeepsWhatItAdded()
     int folders = 20;
     std::unique_ptr<NxFootageGuard> guard;
     ProgramResult interrupted;
+    QString earlier;
     QStringList told;
     do { // The signal follows the first line, and everything may have been added by then.
         folders *= 2;
         m_yard = std::make_unique<Yard>();
         m_yard->manyClips(folders, files);
         guard = std::make_unique<NxFootageGuard>(m_yard->footage());
+        // A project that is there already takes its first media sooner.
+        earlier = m_yard->folder().write(QStringLiteral("earlier.mp4"));
+        VERIFY_CODE(m_yard->run("import", {earlier}), 0);
         interrupted = importUntilSignal(signal);
         told = interrupted.values("added", "path");
     } while (told.size() == folders * files && folders < manyFolders);
     VERIFY_CODE(interrupted, 130);
     QVERIFY(!told.isEmpty());
     QVERIFY(told.size() < folders * files);
-    QCOMPARE(m_yard->paths(), told);
+    QCOMPARE(m_yard->paths(), QStringList(earlier) + told);
     const QJsonObject summary = interrupted.summary();
     QCOMPARE(summary.value(QLatin1String("event")).toString(), QStringLiteral("summary"));
     QCOMPARE(summary.value(QLatin1String("added")).toInt(), told.size());
@@ -413,7 +417,7 @@ void tst_ImportCommand::anInterruptedImportKeepsWhatItAdded()
     const ProgramResult rest = m_yard->run("import", {m_yard->footage(), QStringLiteral("--json")});
     VERIFY_CODE(rest, 0);
     QCOMPARE(rest.values("added", "path").size(), folders * files - told.size());
-    QCOMPARE(m_yard->paths().size(), folders * files);
+    QCOMPARE(m_yard->paths().size(), 1 + folders * files);
     VERIFY_CODE(m_yard->run("check"), 0);
     NX_VERIFY_UNTOUCHED(*guard);
 }

@@ -30,8 +30,9 @@ QStringList patches()
 QString allTests()
 {
     QString lists;
-    for (const char *folder : {"NxVBLEngine/pictures", "NxVBLEngine/reading", "NxVBLEngine/store",
-                               "NxMediaLibrary", "NxMediaViews", "Brevano/window"})
+    for (const char *folder : {"NxVBLEngine/disk", "NxVBLEngine/pictures", "NxVBLEngine/reading",
+                               "NxVBLEngine/store", "NxMediaLibrary", "NxMediaViews",
+                               "Brevano/window"})
         lists += textOf(QStringLiteral("Tests/%1/CMakeLists.txt").arg(QLatin1String(folder)));
     return lists;
 }

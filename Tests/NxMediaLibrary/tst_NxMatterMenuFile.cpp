@@ -35,7 +35,6 @@ using namespace NXVBLMODEL;
 
 namespace {
 
-constexpr int SoonMs = NxPatience;
 
 /// A file in which every key has a text of its own.
 QByteArray fullIni()
@@ -404,7 +403,7 @@ void tst_NxMatterMenuFile::foreignLockIsNotWaitedFor()
     NxMediaLibrarySetting *setting = NxMediaLibrarySetting::instance();
     setting->SetViewType(mctAudio, vmList);
     setting->SetViewType(mctTitle, vmList);
-    QVERIFY(timer.elapsed() < SoonMs);
+    QVERIFY(timer.elapsed() < NxPatience);
     QCOMPARE(setting->GetViewType(mctAudio), vmList);
     QCOMPARE(m_yard->iniText(), QByteArray());
 
