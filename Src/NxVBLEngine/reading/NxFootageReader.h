@@ -93,7 +93,8 @@ private:
     void applyOutcomes(const NxSlice &slice);
     void apply(const NxReadOutcome &outcome);
     /// Nobody has seen the file of which this is the answer, and more is known of it than that.
-    [[nodiscard]] bool hasVanished(const NxEngineMedia &media, const NxReadAnswer &answer) const;
+    /// Once only: where the disk then says that it is there, the next answer counts.
+    [[nodiscard]] bool mayHaveVanished(const NxEngineMedia &media, const NxReadAnswer &answer);
     void applyAnswer(NxEngineMedia *media, const Flight &flight, const NxReadAnswer &answer);
     void applyFacts(NxEngineMedia *media, const Flight &flight, const NxReadAnswer &answer);
     void applyPictures(NxEngineMedia *media, const NxReadAnswer &answer);
@@ -126,6 +127,7 @@ private:
     QHash<QString, std::deque<NxReadingOrder::Item>> m_parked; // By silent volume.
     QHash<qint64, int> m_asked; // Wishes of media that somebody asked for.
     QSet<qint64> m_anew; // Those that are to be read although they were.
+    QSet<qint64> m_doubted; // Those that no worker found at the last try.
     QSet<qint64> m_blamedUnseen; // They killed workers before anybody knew their stamps.
     NxQuietFiles m_quiet;
     NxFolderAnnouncer m_announcer;

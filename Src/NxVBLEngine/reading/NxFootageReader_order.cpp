@@ -45,6 +45,7 @@ void NxFootageReader::stop()
     m_fresh.clear();
     m_asked.clear();
     m_anew.clear();
+    m_doubted.clear();
     m_parked.clear();
     m_parkedTimer.stop();
     m_quiet.clear();

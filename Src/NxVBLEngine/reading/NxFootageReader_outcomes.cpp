@@ -99,20 +99,28 @@ void NxFootageReader::apply(const NxReadOutcome &outcome)
         unpark(outcome.volumeBack);
 }
 
-bool NxFootageReader::hasVanished(const NxEngineMedia &media, const NxReadAnswer &answer) const
+bool NxFootageReader::mayHaveVanished(const NxEngineMedia &media, const NxReadAnswer &answer)
 {
+    const qint64 id = media.id();
     const bool wasSeen = answer.failure.isEmpty() || answer.stamp != NxFileStamp();
-    if (wasSeen || m_anew.contains(media.id()))
+    if (wasSeen || m_anew.contains(id)) {
+        m_doubted.remove(id);
+        return false;
+    }
+    if (media.isAway())
+        return true;
+    if (m_doubted.contains(id) || media.readState() != NxReadState::Read)
         return false;
     // What is known of it, its fingerprint above all, is what finds it again.
-    return media.isAway() || media.readState() == NxReadState::Read;
+    m_doubted.insert(id);
+    return true;
 }
 
 void NxFootageReader::applyAnswer(
     NxEngineMedia *media, const Flight &flight, const NxReadAnswer &answer)
 {
     const qint64 id = media->id();
-    if (hasVanished(*media, answer)) {
+    if (mayHaveVanished(*media, answer)) {
         forgetWishes(id);
         Q_EMIT looksWanted({id});
         return;
@@ -212,5 +220,6 @@ void NxFootageReader::giveUp(const QString &reason)
     m_fresh.clear();
     m_asked.clear();
     m_anew.clear();
+    m_doubted.clear();
     m_parked.clear();
 }

@@ -39,6 +39,7 @@ private Q_SLOTS:
     void missingFilesAreLeftAlone();
     void whatVanishesKeepsWhatIsKnownOfIt_data();
     void whatVanishesKeepsWhatIsKnownOfIt();
+    void whatIsThereAndCannotBeOpenedHasFailed();
     void aFileThatWasAwayBeforeItWasReadStaysUnread();
     void whoAsksForAVanishedFileIsAnswered();
     void withoutAProgramAllStaysUnread();
@@ -256,8 +257,9 @@ void tst_TroubleOfReading::whatVanishesKeepsWhatIsKnownOfIt()
     QVERIFY(!before.fingerprint.isNull());
     QVERIFY(QFile::remove(media->filePath()));
     if (readsAll)
-        QVERIFY(f.startAndFinish());
-    f.reader().want({media}, Pictures);
+        f.reader().start();
+    else
+        f.reader().want({media}, Pictures);
     QVERIFY(f.finish());
     const NxFootageRecord after = media->footage();
     QCOMPARE(after.state, NxReadState::Read);
@@ -265,6 +267,21 @@ void tst_TroubleOfReading::whatVanishesKeepsWhatIsKnownOfIt()
     QVERIFY(after.fingerprint == before.fingerprint);
     QVERIFY(after.stamp == before.stamp);
     QVERIFY(std::count(f.looksWanted.begin(), f.looksWanted.end(), media->id()) > 0);
+}
+
+void tst_TroubleOfReading::whatIsThereAndCannotBeOpenedHasFailed()
+{
+    ReadProject f;
+    NxEngineMedia *media = f.add("vanishes.mp4");
+    f.reader().want({media}, Facts);
+    QVERIFY(f.finish());
+    QVERIFY(QFile::remove(media->filePath()));
+    f.reader().want({media}, Pictures);
+    QVERIFY(f.finish());
+    QCOMPARE(media->readState(), NxReadState::Read);
+    f.reader().want({media}, Pictures); // Nobody has found out meanwhile that it is away.
+    QVERIFY(f.finish());
+    QCOMPARE(media->readState(), NxReadState::Failed);
 }
 
 void tst_TroubleOfReading::aFileThatWasAwayBeforeItWasReadStaysUnread()
