@@ -6,7 +6,7 @@
 
 /// How long tests wait for what must come, in ms. It is never waited for where all is well; Qt's
 /// own five seconds are too few for a machine that does other things, too. NX_PATIENCE in the
-/// environment replaces it where tests are expected to fail.
+/// environment replaces it where tests are expected to fail; some wait for limits of ten seconds.
 inline const int NxPatience = [] {
     constexpr int usual = 60'000;
     bool isGiven = false;
